@@ -1,0 +1,10 @@
+# What every target of the project compiles with.
+add_library(tessaro_options INTERFACE)
+target_compile_features(tessaro_options INTERFACE cxx_std_20)
+target_compile_options(tessaro_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+
+if(TESSARO_SANITIZE)
+    target_compile_options(tessaro_options INTERFACE
+        -fsanitize=${TESSARO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(tessaro_options INTERFACE -fsanitize=${TESSARO_SANITIZE})
+endif()

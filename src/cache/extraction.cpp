@@ -1,0 +1,146 @@
+#include "cache/extraction.h"
+
+#include "core/VORNX.h"
+#include "core/routines.h"
+#include "platform/runtimeerror.h"
+
+namespace tessaro {
+namespace {
+
+constexpr int indexFileNumber = 1;
+constexpr double secondsPerFile = 0.1;
+
+}  // namespace
+
+Extraction::Extraction(Program& program, ExtractionObserver& observer)
+    : ListView1({{"filename", "Filename"}, {"filetype", "Filetype"}, {"size", "Size"}}),
+      program_(program),
+      observer_(observer) {}
+
+void Extraction::run(const std::string& cacheFolder) {
+    program_.paths.changeFolder(entry.mypath);
+    ListView1.clear();
+    AnnounceCacheSize(program_);
+    observer_.setRunning(true);
+    observer_.setBusyPointer(true);
+    prepareFolders();
+    entry.EFile = 0;
+    entry.linecnt = 1;
+    entry.linecnt2 = 1;
+    if (announceMissingIndex(cacheFolder + "\\cache.ini")) return;
+    if (!walk(cacheFolder)) askToClose();
+}
+
+/// Relative names: a change of folder does not change the drive, so for a destination on another
+/// drive these are looked for, and made, on the current one.
+void Extraction::prepareFolders() {
+    for (const char* folder : {"maps", "system", "textures", "sounds", "music"}) {
+        if (DirExists(program_, folder) != Yes) program_.files.makeFolder(folder);
+    }
+}
+
+/// The buttons stay as in a run: only "&Stop" brings "&Extract" back.
+bool Extraction::announceMissingIndex(const std::string& index) {
+    if (FileExists(program_, index) == Yes) return false;
+    observer_.setBusyPointer(false);
+    program_.dialogs.message(
+        {"The Specified Cache.ini file could not be located\n"
+         "in the specified folder, please check\n"
+         "the path and try again.",
+         "Error Finding Cache Resources", Buttons::Ok, Icon::Stop});
+    return true;
+}
+
+/// Tells whether the user stopped it. A failure anywhere in here (a full disk, a locked target, a
+/// counter past its width, the index closed by the form's end) leads to the closing question
+/// without a word of it, also when it comes after the press on "&Stop".
+bool Extraction::walk(const std::string& cacheFolder) {
+    attempt([&] { program_.table.openInput(indexFileNumber, cacheFolder + "\\cache.ini"); });
+    bool stopped = false;
+    attempt([&] {
+        while (!stopped && !program_.table.endOfFile(indexFileNumber)) {
+            pass(cacheFolder);
+            observer_.show(ExtractionBox::Existing, std::to_string(entry.EFile));
+            stopped = observer_.stopped();
+        }
+    });
+    return stopped;
+}
+
+void Extraction::pass(const std::string& cacheFolder) {
+    entry.InputData = program_.table.lineInput(indexFileNumber);
+    if (isSkippedLine(entry.InputData)) return;
+    entry.cfile = cachedFileOf(cacheFolder, entry.InputData);
+    if (program_.files.firstMatch(entry.cfile, attributes::Normal).empty()) {
+        noteFailure();
+        return;
+    }
+    extract();
+    entry.InputData.clear();
+}
+
+/// The game has removed the file: counted, and the walk goes on.
+void Extraction::noteFailure() {
+    const std::string number = std::to_string(entry.linecnt2);
+    List2.push_back(entry.cfile + ",     " + number);
+    observer_.show(ExtractionBox::Failed, number);
+    ++entry.linecnt2;
+}
+
+void Extraction::extract() {
+    // Only now: a short line without a cached file is a mere failure, with one it ends the run.
+    entry.mfile = trueNameOf(entry.InputData);
+    entry.msize = std::to_string(program_.files.fileLength(entry.cfile));
+    observer_.show(ExtractionBox::CurrentFile, entry.cfile);
+    observer_.show(ExtractionBox::MapName, entry.mfile);
+    observer_.show(ExtractionBox::FileSize, kilobytesOf(entry.msize) + "kb");
+    observer_.show(ExtractionBox::Extracted, std::to_string(ListView1.count()));
+    Pause(program_.events, secondsPerFile);
+    getext(entry.mfile, entry.ExtLen);
+    for (const FileType& type : FileTypeTable) {
+        if (!isOfType(entry.mfile, entry.ExtLen, type)) continue;
+        copyTo(entry.mypath + std::string(type.folder) + entry.mfile);
+        // After the row was added: each row shows the kind of the file copied before it.
+        entry.myftype = type.label;
+    }
+}
+
+void Extraction::copyTo(const std::string& destination) {
+    if (FileExists(program_, destination) == Yes) {
+        ++entry.EFile;
+        if (!observer_.overwriteExisting()) return;
+    }
+    program_.files.copyFile(entry.cfile, destination);
+    AddCopiedFileToList();
+}
+
+void Extraction::AddCopiedFileToList() {
+    const std::size_t row = ListView1.add(entry.mfile);
+    ListView1.setSubItem(row, "filetype", entry.myftype);
+    ListView1.setSubItem(row, "size", kilobytesOf(entry.msize) + "KB");
+    ++entry.linecnt;
+}
+
+void Extraction::askToClose() {
+    observer_.setBusyPointer(false);
+    const Answer answer =
+        program_.dialogs.message({"Extraction Complete, Do you wish to close this window?",
+                                  "Map Extractions Completed", Buttons::YesNo, Icon::None});
+    if (answer == Answer::Yes) {
+        observer_.close();
+    } else {
+        StopExtraction();
+    }
+}
+
+void Extraction::StopExtraction() {
+    observer_.setRunning(false);
+    observer_.setBusyPointer(false);
+    release();
+}
+
+void Extraction::release() {
+    attempt([&] { program_.table.close(indexFileNumber); });
+}
+
+}  // namespace tessaro

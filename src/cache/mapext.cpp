@@ -1,0 +1,196 @@
+#include "cache/mapext.h"
+
+#include <QApplication>
+
+#include "cache/wizard.h"
+#include "core/VORNX.h"
+#include "core/routines.h"
+#include "forms/handler.h"
+#include "forms/placement.h"
+#include "forms/text.h"
+#include "platform/runtimeerror.h"
+#include "shell/Skins.h"
+#include "ui_mapext.h"
+
+namespace tessaro::forms {
+
+mapext::mapext(Forms& forms)
+    : SkinnedForm(forms, {.caption = "UT Cached Files Extractor", .title = "Map Extractor"}),
+      phile(forms.program().makeINI()),
+      ui_(std::make_unique<Ui::mapextContent>()),
+      extraction_(forms.program(), *this) {
+    setUpContent(*ui_);
+    setupStepOne();
+    setupStepTwo();
+    setupStepThree();
+    setupDefaultButtons();
+}
+
+mapext::~mapext() = default;
+
+Program& mapext::program() {
+    return forms().program();
+}
+
+void mapext::setupStepOne() {
+    ui_->Drive1->use(program().files);
+    ui_->Dir1->use(program().files);
+    on(ui_->Drive1, &DriveList::changed, forms(), [this] { changeDrive(); });
+    on(ui_->Dir1, &FolderList::changed, forms(), [this] { changeFolder(); });
+    on(ui_->Command4, &QPushButton::clicked, forms(), [this] { goToTypedFolder(); });
+    on(ui_->Command2, &QPushButton::clicked, forms(), [this] { forms().unload(*this); });
+    on(ui_->next, &QPushButton::clicked, forms(), [this] { toStepTwo(); });
+}
+
+void mapext::setupStepTwo() {
+    setNewFolderVisible(false);
+    on(ui_->Option1, &QRadioButton::clicked, forms(), [this] { setNewFolderVisible(false); });
+    on(ui_->Option2, &QRadioButton::clicked, forms(), [this] { chooseNewFolder(); });
+    on(ui_->Command10, &QPushButton::clicked, forms(), [this] { browseDestination(); });
+    on(ui_->Command1, &QPushButton::clicked, forms(), [this] { createFolder(); });
+    on(ui_->Command6, &QPushButton::clicked, forms(), [this] { showStep(*ui_->Frame3); });
+    on(ui_->Command5, &QPushButton::clicked, forms(), [this] { toStepThree(); });
+}
+
+void mapext::setupStepThree() {
+    ui_->ListView1->show(extraction_.ListView1);
+    on(ui_->ListView1, &ListView::columnClicked, forms(), [this](int column) { sortBy(column); });
+    on(ui_->Command8, &QPushButton::clicked, forms(), [this] { extract(); });
+    on(ui_->Command3, &QPushButton::clicked, forms(), [this] { extraction_.StopExtraction(); });
+    on(ui_->Command9, &QPushButton::clicked, forms(), [this] { showStep(*ui_->Frame4); });
+}
+
+/// Enter confirms a typed folder while the box has the focus, and leads on everywhere else.
+void mapext::setupDefaultButtons() {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        (now == ui_->Text1 ? ui_->Command4 : ui_->next)->setDefault(true);
+    });
+}
+
+void mapext::Load() {
+    PrepareForm(*this);
+    ApplySkin(forms(), *this);
+    loadExtractDest(program(), phile);
+    const std::string& cache = program().gamePaths.UTCachePath;
+    ui_->Drive1->setDrive(cache.substr(0, 1));
+    // A cache folder that is not there is a failure here, and ends the program.
+    ui_->Dir1->setPath(cache);
+    ui_->Text1->setText(toQt(ui_->Dir1->path()));
+    ui_->Text2->setText(toQt(program().settings.ExtractDest));
+    CheckCacheDir();
+}
+
+void mapext::Unload() {
+    saveExtractDest(program(), phile, fromQt(ui_->Text2->text()));
+    extraction_.release();
+}
+
+void mapext::showStep(QWidget& frame) {
+    ui_->steps->setCurrentWidget(&frame);
+}
+
+void mapext::changeDrive() {
+    // A drive without a disc leaves things as they were.
+    const std::string root = ui_->Drive1->drive().substr(0, 2) + "\\";
+    attempt([&] { program().paths.changeDrive(root); });
+    attempt([&] { ui_->Dir1->setPath(root); });
+    attempt([&] { changeFolder(); });
+}
+
+void mapext::changeFolder() {
+    ui_->Text1->setText(toQt(ui_->Dir1->path()));
+    program().paths.changeFolder(ui_->Dir1->path());
+    CheckCacheDir();
+}
+
+void mapext::goToTypedFolder() {
+    const std::string typed = fromQt(ui_->Text1->text());
+    if (DirExists(program(), typed) != Yes) return;
+    attempt([&] { program().paths.changeFolder(typed); });
+    attempt([&] { ui_->Dir1->setPath(typed); });
+    attempt([&] { CheckCacheDir(); });
+}
+
+void mapext::CheckCacheDir() {
+    const bool valid = cacheFolderIsValid(program(), fromQt(ui_->Text1->text()), ui_->Dir1->path());
+    ui_->validdir->setText(valid ? QStringLiteral("Valid Directory!")
+                                 : QStringLiteral("Not a valid Directory."));
+    ui_->next->setEnabled(valid);
+}
+
+void mapext::toStepTwo() {
+    rememberCacheFolder(program(), ui_->Dir1->path());
+    showStep(*ui_->Frame4);
+}
+
+void mapext::chooseNewFolder() {
+    ui_->Text2->setText(toQt(offeredDestination(program())));
+    setNewFolderVisible(true);
+}
+
+void mapext::setNewFolderVisible(bool visible) {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{ui_->Text2, ui_->Command10, ui_->Command1})
+        control->setVisible(visible);
+}
+
+void mapext::browseDestination() {
+    const std::string answer =
+        BrowseForFolder(program(), "Where Do you wish to Extract your Map Files to?");
+    if (answer.empty()) return;
+    ui_->Text2->setText(toQt(answer));
+    program().settings.ExtractDest = answer;
+}
+
+void mapext::createFolder() {
+    ui_->Text2->setText(toQt(createDestination(program(), fromQt(ui_->Text2->text()))));
+}
+
+void mapext::toStepThree() {
+    const std::string root =
+        ui_->Option1->isChecked() ? program().gamePaths.UTPath : fromQt(ui_->Text2->text());
+    extraction_.entry.mypath = root + "\\";
+    ui_->Text6->setText(toQt(extraction_.entry.mypath));
+    showStep(*ui_->Frame5);
+}
+
+void mapext::extract() {
+    extraction_.run(ui_->Dir1->path());
+}
+
+/// The order never returns to ascending, and the test compares a column counted from 0 with one
+/// counted from 1.
+void mapext::sortBy(int column) {
+    ListItems& rows = extraction_.ListView1;
+    if (rows.sortKey() == column && rows.sortOrder() == 0) rows.setSortOrder(1);
+    rows.setSortKey(column - 1);
+}
+
+void mapext::show(ExtractionBox box, const std::string& text) {
+    QLineEdit* const boxes[] = {ui_->Text3, ui_->Text4, ui_->Text5,
+                                ui_->Text7, ui_->Text8, ui_->Text9};
+    boxes[static_cast<std::size_t>(box)]->setText(toQt(text));
+}
+
+void mapext::setRunning(bool running) {
+    ui_->Command3->setEnabled(running);
+    ui_->Command8->setEnabled(!running);
+}
+
+void mapext::setBusyPointer(bool busy) {
+    busy ? setCursor(Qt::WaitCursor) : unsetCursor();
+}
+
+bool mapext::stopped() {
+    return !ui_->Command3->isEnabled();
+}
+
+bool mapext::overwriteExisting() {
+    return ui_->Check1->isChecked();
+}
+
+void mapext::close() {
+    forms().unload(*this);
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+
+#include "cache/extraction.h"
+#include "forms/skinnedform.h"
+
+namespace Ui {
+class mapextContent;
+}
+
+namespace tessaro::forms {
+
+/// The extractor's wizard: finds the cache folder, chooses the destination, runs the extraction.
+class mapext : public SkinnedForm, private ExtractionObserver {
+    Q_OBJECT
+
+  public:
+    explicit mapext(Forms& forms);
+    ~mapext() override;
+
+    void Load() override;
+    void Unload() override;
+
+    clsINI phile;
+
+  private:
+    void setupStepOne();
+    void setupStepTwo();
+    void setupStepThree();
+    void setupDefaultButtons();
+
+    void showStep(QWidget& frame);
+    void changeDrive();
+    void changeFolder();
+    void goToTypedFolder();
+    void CheckCacheDir();
+    void toStepTwo();
+    void chooseNewFolder();
+    void setNewFolderVisible(bool visible);
+    void browseDestination();
+    void createFolder();
+    void toStepThree();
+    void extract();
+    void sortBy(int column);
+
+    void show(ExtractionBox box, const std::string& text) override;
+    void setRunning(bool running) override;
+    void setBusyPointer(bool busy) override;
+    bool stopped() override;
+    bool overwriteExisting() override;
+    void close() override;
+
+    Program& program();
+
+    std::unique_ptr<Ui::mapextContent> ui_;
+    Extraction extraction_;
+};
+
+}  // namespace tessaro::forms

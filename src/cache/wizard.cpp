@@ -1,0 +1,52 @@
+#include "cache/wizard.h"
+
+#include "core/routines.h"
+#include "platform/runtimeerror.h"
+
+namespace tessaro {
+
+bool cacheFolderIsValid(Program& program, std::string_view folderText,
+                        std::string_view chosenFolder) {
+    const bool root = chosenFolder.ends_with(":\\");
+    const std::string index = std::string(folderText) + (root ? "cache.ini" : "\\cache.ini");
+    return FileExists(program, index) == Yes;
+}
+
+void loadExtractDest(Program& program, clsINI& phile) {
+    phile.inifile(program.settingsFile());
+    program.settings.ExtractDest = phile.getKeyValue("VORNX", "C:\\UTMaps", "Common");
+}
+
+void saveExtractDest(Program& program, clsINI& phile, std::string_view destination) {
+    phile.inifile(program.settingsFile());
+    phile.setKeyValue("VORNX", destination, "Common");
+}
+
+void rememberCacheFolder(Program& program, const std::string& chosenFolder) {
+    if (FileExists(program, chosenFolder + "\\cache.ini") == Yes) {
+        program.gamePaths.UTMapPath = chosenFolder;
+    }
+}
+
+std::string offeredDestination(Program& program) {
+    const std::string& lastUsed = program.settings.ExtractDest;
+    return DirExists(program, lastUsed) == Yes ? lastUsed : program.gamePaths.UTPath;
+}
+
+std::string createDestination(Program& program, const std::string& folder) {
+    attempt([&] { program.paths.changeFolder(folder); });
+    const std::string answer =
+        program.dialogs.input("Enter New Folder Name", "Create Folder", folder + "\\UTMaps");
+    if (answer.empty()) return folder;
+    if (DirExists(program, ".\\" + answer) == Yes) {
+        program.dialogs.message(
+            {"Directory Exists", "Cannot create folder", Buttons::Ok, Icon::Information});
+        return folder;
+    }
+    // The answer is kept as typed, also when no folder could be made of it.
+    attempt([&] { program.files.makeFolder(answer); });
+    attempt([&] { program.paths.changeFolder(answer); });
+    return answer;
+}
+
+}  // namespace tessaro

@@ -1,0 +1,118 @@
+#include "core/MainFrm.h"
+
+#include <QEvent>
+#include <QPixmap>
+#include <utility>
+
+#include "cache/mapext.h"
+#include "core/splash.h"
+#include "forms/forms.h"
+#include "forms/handler.h"
+#include "forms/placement.h"
+#include "forms/twips.h"
+#include "platform/runtimeerror.h"
+#include "prefs/Prefs.h"
+#include "shell/menus.h"
+#include "ui_MainFrm.h"
+
+namespace tessaro::forms {
+
+MainFrm::MainFrm(Forms& forms)
+    : FormWindow(forms), INI(forms.program().makeINI()), ui_(std::make_unique<Ui::MainFrm>()) {
+    ui_->setupUi(this);
+    ui_->client->setPalette(QPalette(Qt::black));
+    ui_->Image1->setPixmap(QPixmap(QStringLiteral(":/pictures/main.png")));
+    setMinimumSize(pixels(smallestMainWindow.width), pixels(smallestMainWindow.height));
+    setupMenus();
+}
+
+MainFrm::~MainFrm() = default;
+
+void MainFrm::setupMenus() {
+    buildMenus(forms(), *this,
+               {
+                   {"mnumapextractor", [this] { forms().show<mapext>(); }},
+                   {"mnurmapext", [this] { forms().showModal<mapext>(); }},
+                   {"mnuprefs", [this] { showPrefs(); }},
+                   {"mnurprefs", [this] { showPrefs(); }},
+                   {"mnuexit", [this] { exitProgram(); }},
+                   {"mnurexit", [this] { exitProgram(); }},
+               });
+}
+
+void MainFrm::Load() {
+    INI.inifile(forms().program().settingsFile());
+    loadMainWindow(forms().program(), *this);
+}
+
+void MainFrm::Unload() {
+    unloadMainWindow(forms().program(), *this);
+}
+
+void MainFrm::center() {
+    CenterForm(*this);
+}
+
+void MainFrm::setState(int state) {
+    constexpr Qt::WindowState states[] = {Qt::WindowNoState, Qt::WindowMinimized,
+                                          Qt::WindowMaximized};
+    if (state < 0 || state > windowstate::Maximised)
+        throw RunTimeError(errors::InvalidPropertyValue);
+    setWindowState(states[state]);
+}
+
+int MainFrm::state() {
+    if (isMinimized()) return windowstate::Minimised;
+    return isMaximized() ? windowstate::Maximised : windowstate::Normal;
+}
+
+void MainFrm::showSplash() {
+    forms().showModal<splash>();
+}
+
+// Touching the folder box loads the dialog, which reads the game's files and may ask for the folder.
+std::string MainFrm::folderToValidate() {
+    return forms().get<Prefs>().folder();
+}
+
+void MainFrm::showPrefs() {
+    forms().showModal<Prefs>();
+}
+
+void MainFrm::unloadAllForms() {
+    forms().UnloadAllForms();
+}
+
+void MainFrm::exitProgram() {
+    forms().unload(*this);
+    forms().end();
+}
+
+void MainFrm::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        ui_->StatusBar1->showMessage(QStringLiteral("Tessaro"));
+    if (event->type() == QEvent::WindowStateChange) {
+        stateIsNew_ = true;
+        followSize();
+    }
+}
+
+void MainFrm::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    placeBackground();
+    // The size that comes with a new state belongs to that state's one Resize.
+    if (isVisible() && !std::exchange(stateIsNew_, false)) followSize();
+}
+
+void MainFrm::placeBackground() {
+    const MainWindowSize size =
+        backgroundSize({twips(frameSize().width()), twips(frameSize().height())});
+    ui_->Image1->resize(pixels(size.width), pixels(size.height));
+}
+
+void MainFrm::followSize() {
+    guarded(forms(), [this] { resizeMainWindow(forms().program(), state()); });
+}
+
+}  // namespace tessaro::forms

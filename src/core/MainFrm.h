@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "core/startup.h"
+#include "forms/form.h"
+
+namespace Ui {
+class MainFrm;
+}
+
+namespace tessaro::forms {
+
+/// The main window: menus, background picture, status bar. Its Load is the program's start, its
+/// Unload the program's end.
+class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
+    Q_OBJECT
+
+  public:
+    explicit MainFrm(Forms& forms);
+    ~MainFrm() override;
+
+    void Load() override;
+    void Unload() override;
+
+    void center() override;
+    void setState(int state) override;
+    int state() override;
+    void showSplash() override;
+    std::string folderToValidate() override;
+    void showPrefs() override;
+    void unloadAllForms() override;
+
+    clsINI INI;
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void setupMenus();
+    void placeBackground();
+    void followSize();
+    void exitProgram();
+
+    std::unique_ptr<Ui::MainFrm> ui_;
+    bool stateIsNew_ = false;
+};
+
+}  // namespace tessaro::forms

@@ -1,0 +1,54 @@
+#include "core/routines.h"
+
+#include <string>
+
+#include "platform/runtimeerror.h"
+
+namespace tessaro {
+
+Box centeredOn(const Box& screen, const Box& form) {
+    Box placed = form;
+    placed.top = screen.height * 0.85 / 2 - form.height / 2;
+    placed.left = screen.width / 2 - form.width / 2;
+    return placed;
+}
+
+void Pause(Events& events, double seconds) {
+    const double start = events.secondsSinceMidnight();
+    // At midnight the clock falls back to 0 and the difference below zero: the wait then lasts
+    // until the clock has passed `start` again.
+    while (events.secondsSinceMidnight() - start < seconds) events.pump();
+}
+
+namespace {
+
+YesNo anyMatch(Program& program, std::string_view path, int attributes) {
+    std::string name;
+    attempt([&] { name = program.files.firstMatch(path, attributes); });
+    return yesNo(!name.empty());
+}
+
+}  // namespace
+
+YesNo DirExists(Program& program, std::string_view path) {
+    return anyMatch(program, path, attributes::Directory);
+}
+
+YesNo FileExists(Program& program, std::string_view path) {
+    using namespace attributes;
+    return anyMatch(program, path, Normal | ReadOnly | Hidden | System | Archive);
+}
+
+void PlaySoundResource(Program& program, std::string_view name) {
+    program.SoundBuffer = program.sounds.resource(name);
+    program.SoundResult = program.sounds.start(name);
+}
+
+YesNo ValidatePaths(Program& program, std::string_view base) {
+    for (const char* folder : {"\\sounds", "\\maps", "\\textures", "\\system", "\\cache"}) {
+        if (DirExists(program, std::string(base) + folder) != Yes) return No;
+    }
+    return Yes;
+}
+
+}  // namespace tessaro

@@ -1,0 +1,61 @@
+#include "core/splash.h"
+
+#include <QPainter>
+
+#include "core/startup.h"
+#include "forms/forms.h"
+#include "forms/handler.h"
+#include "forms/text.h"
+#include "ui_splash.h"
+
+namespace tessaro::forms {
+namespace {
+
+constexpr int shownMilliseconds = 3000;
+
+}  // namespace
+
+splash::splash(Forms& forms)
+    : FormWindow(forms),
+      INI(forms.program().makeINI()),
+      ui_(std::make_unique<Ui::splash>()),
+      picture_(QStringLiteral(":/pictures/splash.png")) {
+    ui_->setupUi(this);
+    setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+    setFixedSize(picture_.size());
+    setPalette(QPalette(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::gray, Qt::white, Qt::black));
+    Timer1.setObjectName(QStringLiteral("Timer1"));
+    Timer1.setParent(this);
+    on(&Timer1, &QTimer::timeout, forms, [this] { timeOut(); });
+    Timer1.start(shownMilliseconds);
+}
+
+splash::~splash() = default;
+
+void splash::Load() {
+    ui_->Label2->setText(toQt(playerName(INI, forms().program().gamePaths)));
+}
+
+void splash::timeOut() {
+    setEnabled(false);
+    forms().unload(*this);
+}
+
+void splash::acknowledge() {
+    acknowledgeSplash(forms().program());
+    forms().unload(*this);
+}
+
+void splash::paintEvent(QPaintEvent*) {
+    QPainter(this).drawPixmap(rect(), picture_);
+}
+
+void splash::mousePressEvent(QMouseEvent*) {
+    guarded(forms(), [this] { acknowledge(); });
+}
+
+void splash::keyPressEvent(QKeyEvent*) {
+    guarded(forms(), [this] { acknowledge(); });
+}
+
+}  // namespace tessaro::forms

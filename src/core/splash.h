@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDialog>
+#include <QPixmap>
+#include <QTimer>
+#include <memory>
+
+#include "core/clsINI.h"
+#include "forms/form.h"
+
+namespace Ui {
+class splash;
+}
+
+namespace tessaro::forms {
+
+/// The start-up screen. It goes by itself after three seconds, or at a click or key.
+class splash : public FormWindow<QDialog> {
+    Q_OBJECT
+
+  public:
+    explicit splash(Forms& forms);
+    ~splash() override;
+
+    void Load() override;
+
+    clsINI INI;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void acknowledge();
+    void timeOut();
+
+    std::unique_ptr<Ui::splash> ui_;
+    QTimer Timer1;
+    QPixmap picture_;
+};
+
+}  // namespace tessaro::forms

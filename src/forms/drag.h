@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tessaro::forms {
+
+/// Moves a window with the mouse, from a press of any button until its release. The desktop moves
+/// it, from the first movement on (a desktop may refuse a move that begins with the press); where
+/// there is no such service we do.
+void dragWindow(QWidget& window);
+
+}  // namespace tessaro::forms

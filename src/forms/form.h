@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QString>
+#include <QWidget>
+
+namespace tessaro::forms {
+
+class Forms;
+
+/// One form of the program, as the registry of forms sees it.
+class Form {
+  public:
+    explicit Form(Forms& forms) : forms_(forms) {}
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    virtual QWidget& window() = 0;
+    /// Runs once, when the form is created. The form is not visible yet.
+    virtual void Load() {}
+    /// Asked when the user closes the form; false keeps it open.
+    virtual bool QueryUnload() { return true; }
+    virtual void Unload() {}
+
+    Forms& forms() { return forms_; }
+
+  protected:
+    /// The way of every close button, key and window manager: asks the form, then unloads it.
+    void closeByUser();
+    bool stillLoaded() const;
+
+  private:
+    Forms& forms_;
+};
+
+/// A dialog whose Esc does what its close button does.
+class EscapableDialog : public QDialog {
+  public:
+    using QDialog::QDialog;
+    void reject() override { close(); }
+};
+
+template <class Base>
+struct WindowBase {
+    using type = Base;
+};
+template <>
+struct WindowBase<QDialog> {
+    using type = EscapableDialog;
+};
+
+/// A form that is a window of the class `Base`, QMainWindow or QDialog.
+template <class Base>
+class FormWindow : public WindowBase<Base>::type, public Form {
+  public:
+    explicit FormWindow(Forms& forms) : Form(forms) {}
+    QWidget& window() override { return *this; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override {
+        closeByUser();
+        event->setAccepted(!stillLoaded());
+    }
+};
+
+}  // namespace tessaro::forms

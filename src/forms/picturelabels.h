@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QLabel>
+
+namespace tessaro::forms {
+
+/// A bar of a window's frame: its picture is stretched along it, whatever the size.
+class BarLabel : public QLabel {
+    Q_OBJECT
+  public:
+    explicit BarLabel(QWidget* parent) : QLabel(parent) { setScaledContents(true); }
+    QSize sizeHint() const override { return minimumSize(); }
+    QSize minimumSizeHint() const override { return minimumSize(); }
+};
+
+/// The plate behind a title: the picture's two end caps keep their shape, its middle is stretched.
+class PlateLabel : public QLabel {
+    Q_OBJECT
+  public:
+    /// Width of an end cap in a picture 32 pixels high.
+    static constexpr int capWidth = 24;
+    static constexpr int pictureHeight = 32;
+
+    explicit PlateLabel(QWidget* parent) : QLabel(parent) {}
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tessaro::forms

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tessaro::forms {
+
+/// Places a form centred across its screen and a little above the middle.
+void CenterForm(QWidget& form);
+
+/// Called by most tool forms right before they are dressed. There is nothing to prepare; the forms
+/// keep the call as the place for it.
+inline void PrepareForm(QWidget&) {}
+
+}  // namespace tessaro::forms

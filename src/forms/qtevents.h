@@ -1,0 +1,22 @@
+#pragma once
+
+#include "forms/ended.h"
+#include "platform/events.h"
+
+namespace tessaro::forms {
+
+/// The events and the clock of the running program.
+class QtEvents : public Events {
+  public:
+    explicit QtEvents(const ProgramEnd& programEnd) : end_(programEnd) {}
+
+    /// Waits up to a few milliseconds if nothing is pending: the program's waits call this in a
+    /// loop, which would otherwise keep a processor busy.
+    void pump() override;
+    double secondsSinceMidnight() override;
+
+  private:
+    const ProgramEnd& end_;
+};
+
+}  // namespace tessaro::forms

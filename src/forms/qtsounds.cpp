@@ -1,0 +1,61 @@
+#include "forms/qtsounds.h"
+
+#include <QAudioDevice>
+#include <QFile>
+#include <QMediaDevices>
+#include <QSoundEffect>
+#include <QUrl>
+
+#include "forms/resources.h"
+#include "forms/text.h"
+#include "platform/runtimeerror.h"
+#include "platform/utf8.h"
+
+namespace tessaro::forms {
+namespace {
+
+/// Name of the resource file; the names of sounds ignore case. Raises 326.
+QString soundFile(std::string_view name) {
+    const QString file = QStringLiteral("/sounds/%1.wav").arg(toQt(lowerCase(name)));
+    if (!QFile::exists(QLatin1Char(':') + file))
+        throw RunTimeError(errors::ResourceNotFound, std::string(name));
+    return file;
+}
+
+}  // namespace
+
+QtSounds::QtSounds() {
+    loadResources();
+}
+
+QtSounds::~QtSounds() = default;
+
+std::string QtSounds::resource(std::string_view name) {
+    QFile file(QLatin1Char(':') + soundFile(name));
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(errors::ResourceNotFound, std::string(name));
+    return file.readAll().toStdString();
+}
+
+int QtSounds::start(std::string_view name) {
+    const bool posted = !next_.isEmpty();
+    next_ = soundFile(name);
+    if (!posted) {
+        QMetaObject::invokeMethod(
+            &later_, [this] { playNext(); }, Qt::QueuedConnection);
+    }
+    return silent_ ? 0 : 1;
+}
+
+void QtSounds::playNext() {
+    const QUrl url(QStringLiteral("qrc:") + std::exchange(next_, QString()));
+    // Asked each time: a headset may be plugged in while the program runs.
+    silent_ = QMediaDevices::defaultAudioOutput().isNull();
+    if (silent_) return;
+    if (!effect_) effect_ = std::make_unique<QSoundEffect>();
+    effect_->stop();
+    effect_->setSource(url);
+    effect_->play();
+}
+
+}  // namespace tessaro::forms

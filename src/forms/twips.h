@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cmath>
+
+namespace tessaro::forms {
+
+inline constexpr double twipsPerPixel = 15;
+
+/// Twips (15 to a pixel at 96 dpi) to device-independent pixels, rounded.
+inline int pixels(double twips) {
+    return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
+inline double twips(int pixels) {
+    return pixels * twipsPerPixel;
+}
+
+}  // namespace tessaro::forms

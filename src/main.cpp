@@ -1,0 +1,7 @@
+// The program: made of the two libraries and nothing else.
+
+#include "forms/application.h"
+
+int main(int argc, char** argv) {
+    return tessaro::forms::Application(argc, argv).run();
+}

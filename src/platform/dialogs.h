@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+namespace tessaro {
+
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class Icon { None, Stop, Question, Information };
+enum class Answer { Ok, Cancel, Yes, No };
+
+/// One question or notice to the user.
+struct Message {
+    std::string text;
+    std::string title;
+    Buttons buttons = Buttons::Ok;
+    Icon icon = Icon::None;
+    bool operator==(const Message&) const = default;
+};
+
+/// The one door for questions. Each call returns when the user has answered.
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    virtual Answer message(const Message& message) = 0;
+    /// The text typed, or an empty one if the user cancelled.
+    virtual std::string input(const std::string& prompt, const std::string& title,
+                              const std::string& preset) = 0;
+    /// A folder in the game's form, or an empty text if the user cancelled.
+    virtual std::string pickFolder(const std::string& prompt) = 0;
+};
+
+}  // namespace tessaro

@@ -1,0 +1,48 @@
+#include "platform/posix/descriptor.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "platform/runtimeerror.h"
+
+namespace tessaro {
+
+void raiseErrno(const HostPath& path) {
+    const int error = errno == EDQUOT ? ENOSPC : errno;  // a full share of the disk is a full disk
+    raiseHostError({error, std::generic_category()}, path.native());
+}
+
+Descriptor::Descriptor(const HostPath& path, int flags, mode_t mode) : path_(path) {
+    fd_ = uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC, mode); });
+    if (fd_ == -1) raiseErrno(path);
+}
+
+Descriptor::~Descriptor() {
+    if (fd_ != -1) ::close(fd_);
+}
+
+void Descriptor::write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t done =
+            uninterrupted([&] { return ::write(fd_, bytes.data(), bytes.size()); });
+        if (done == -1) raiseErrno(path_);
+        bytes.remove_prefix(static_cast<std::size_t>(done));
+    }
+}
+
+std::size_t Descriptor::read(char* buffer, std::size_t size) {
+    const ssize_t done = uninterrupted([&] { return ::read(fd_, buffer, size); });
+    if (done == -1) raiseErrno(path_);
+    return static_cast<std::size_t>(done);
+}
+
+void Descriptor::flush() {
+    if (uninterrupted([&] { return ::fsync(fd_); }) == -1) raiseErrno(path_);
+}
+
+void Descriptor::close() {
+    // Not repeated after a signal: the descriptor is gone by then and may be someone else's.
+    if (::close(std::exchange(fd_, -1)) == -1 && errno != EINTR) raiseErrno(path_);
+}
+
+}  // namespace tessaro

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cerrno>
+#include <string_view>
+#include <utility>
+
+#include "platform/host.h"
+
+namespace tessaro {
+
+/// Raises what `errno` says.
+[[noreturn]] void raiseErrno(const HostPath& path);
+
+/// Repeats a call that a signal interrupted.
+template <class Call>
+auto uninterrupted(Call&& call) {
+    auto result = call();
+    while (result == -1 && errno == EINTR) result = call();
+    return result;
+}
+
+/// An open file, closed at its end.
+class Descriptor {
+  public:
+    /// Raises what opening raises.
+    Descriptor(const HostPath& path, int flags, mode_t mode = 0);
+    Descriptor(Descriptor&& other) noexcept
+        : path_(std::move(other.path_)), fd_(std::exchange(other.fd_, -1)) {}
+    Descriptor& operator=(Descriptor&&) = delete;
+    ~Descriptor();
+
+    int get() const { return fd_; }
+    const HostPath& path() const { return path_; }
+    void write(std::string_view bytes);
+    /// Reads at most `size` bytes; 0 at the end of the file.
+    std::size_t read(char* buffer, std::size_t size);
+    void flush();
+    /// Some file systems tell only now that a write failed.
+    void close();
+
+  private:
+    HostPath path_;
+    int fd_;
+};
+
+}  // namespace tessaro

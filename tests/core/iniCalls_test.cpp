@@ -1,0 +1,192 @@
+#include "core/iniCalls.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/values.h"
+#include "support/testprogram.h"
+
+namespace tessaro::test {
+namespace {
+
+constexpr const char* settingsFile = "C:\\Tessaro\\vornx.ini";
+
+constexpr const char* freshSettings =
+    "[UTPaths]\r\n"
+    "UTPath=C:\\UnrealTournament\r\n"
+    "UTCachePath=C:\\UnrealTournament\\Cache\r\n"
+    "UTMapPath=C:\\UnrealTournament\\Maps\r\n"
+    "UTSysPath=C:\\UnrealTournament\\System\r\n"
+    "[Misc]\r\n"
+    "Sounds=1\r\n"
+    "AutoSave=1\r\n"
+    "ShowSplash=1\r\n"
+    "TimesUsed=2\r\n"
+    "Skin=0\r\n"
+    "[Common]\r\n"
+    "VORNX=C:\\UTMaps\r\n"
+    "DefUser=Player\r\n"
+    "ASCIIFont=MS Sans\r\n"
+    "WindowSize=0\r\n";
+
+class Settings : public ::testing::Test {
+  protected:
+    TestProgram game;
+    Program& program = game.program;
+};
+
+TEST_F(Settings, FirstRunLeavesACompleteFile) {
+    LoadSettings(program);
+    EXPECT_EQ(game.world.read(settingsFile), freshSettings);
+    EXPECT_EQ(program.settings.TimesUsed, 2);
+    EXPECT_EQ(program.gamePaths.UTSysPath, "C:\\UnrealTournament\\System");
+    EXPECT_EQ(program.settings.ExtractDest, "C:\\UTMaps");
+}
+
+TEST_F(Settings, EachLoadCountsTheRunInTheFile) {
+    LoadSettings(program);
+    LoadSettings(program);
+    EXPECT_EQ(program.settings.TimesUsed, 3);
+    EXPECT_NE(game.world.read(settingsFile).find("TimesUsed=3\r\n"), std::string::npos);
+}
+
+TEST_F(Settings, MissingKeysAreFilledInAndOthersKept) {
+    game.world.write(settingsFile, "; mine\r\n[Misc]\r\nSkin=2\r\n");
+    LoadSettings(program);
+    EXPECT_EQ(program.settings.Skin, "2");
+    const std::string text = game.world.read(settingsFile);
+    EXPECT_TRUE(text.starts_with("; mine\r\n[Misc]\r\nSkin=2\r\n"));
+    EXPECT_NE(text.find("WindowSize=0"), std::string::npos);
+}
+
+TEST_F(Settings, RunCountAtItsLimitOverflowsAndTheFileKeepsIt) {
+    game.world.write(settingsFile, "[Misc]\r\nTimesUsed=32767\r\n");
+    EXPECT_EQ(errorOf([&] { LoadSettings(program); }), errors::Overflow);
+    EXPECT_NE(game.world.read(settingsFile).find("TimesUsed=32767\r\n"), std::string::npos);
+}
+
+TEST_F(Settings, RunCountThatIsNoNumberStopsTheLoad) {
+    game.world.write(settingsFile, "[Misc]\r\nTimesUsed=often\r\n");
+    EXPECT_EQ(errorOf([&] { LoadSettings(program); }), errors::TypeMismatch);
+}
+
+TEST_F(Settings, RunCountBeyondItsWidthOverflows) {
+    game.world.write(settingsFile, "[Misc]\r\nTimesUsed=40000\r\n");
+    EXPECT_EQ(errorOf([&] { LoadSettings(program); }), errors::Overflow);
+}
+
+TEST_F(Settings, RunIsCountedBeforeALaterSettingIsRead) {
+    game.world.write(settingsFile, "[Misc]\r\nTimesUsed=7\r\nSkin=1\r\n");
+    game.world.host.refuse(Call::Rename, errors::DiskFull, "vornx");
+    LoadSettings(program);  // a file that cannot be written is not noticed
+    EXPECT_EQ(program.settings.TimesUsed, 8);
+    EXPECT_NE(game.world.read(settingsFile).find("TimesUsed=7\r\n"), std::string::npos);
+}
+
+TEST_F(Settings, SaveWritesEveryOptionButTheRunCount) {
+    LoadSettings(program);
+    program.settings.TimesUsed = 99;
+    program.settings.Sounds = "0";
+    program.settings.WindowSize = "2";
+    program.gamePaths.UTMapPath = "D:\\Maps";
+    SaveSettings(program);
+    const std::string text = game.world.read(settingsFile);
+    EXPECT_NE(text.find("TimesUsed=2\r\n"), std::string::npos);
+    EXPECT_NE(text.find("Sounds=0\r\n"), std::string::npos);
+    EXPECT_NE(text.find("WindowSize=2\r\n"), std::string::npos);
+    EXPECT_NE(text.find("UTMapPath=D:\\Maps\r\n"), std::string::npos);
+}
+
+TEST_F(Settings, SaveIntoAMissingFolderIsPassedOver) {
+    program.file.folder = "C:\\Gone";
+    EXPECT_EQ(errorOf([&] { SaveSettings(program); }), 0);
+}
+
+TEST_F(Settings, ReadOnlySettingsFileIsLeftAsItIs) {
+    LoadSettings(program);
+    game.world.host.protect("vornx.ini");
+    program.settings.Skin = "1";
+    SaveSettings(program);
+    EXPECT_EQ(game.world.read(settingsFile), freshSettings);
+}
+
+TEST_F(Settings, SoundFlagIsOnForOneAndOffForOtherNumbers) {
+    for (const char* text : {"1", " 1 ", "1.0"}) {
+        program.settings.Sounds = text;
+        EXPECT_TRUE(program.soundsOn()) << text;
+    }
+    for (const char* text : {"0", "2", "-1"}) {
+        program.settings.Sounds = text;
+        EXPECT_FALSE(program.soundsOn()) << text;
+    }
+}
+
+TEST_F(Settings, FlagThatIsNoNumberFailsAtItsFirstTest) {
+    program.settings.Sounds = "yes";
+    EXPECT_EQ(errorOf([&] { program.soundsOn(); }), errors::TypeMismatch);
+}
+
+TEST_F(Settings, DialogGetsTheRecord) {
+    LoadSettings(program);
+    program.settings.Skin = "1";
+    program.settings.AutoSave = "0";
+    PrefsControls controls;
+    SettingsToPrefs(program, controls);
+    EXPECT_EQ(controls.Text1, "C:\\UnrealTournament");
+    EXPECT_EQ(controls.Check1, 1);
+    EXPECT_EQ(controls.Check2, 0);
+    EXPECT_EQ(controls.Check3, 1);
+    EXPECT_EQ(controls.Text5, "C:\\UTMaps");
+    EXPECT_EQ(controls.Text6, "Player");
+    EXPECT_EQ(controls.Text7, "MS Sans");
+    EXPECT_FALSE(controls.Option3);
+    EXPECT_TRUE(controls.Option4);
+    EXPECT_FALSE(controls.Option5);
+}
+
+TEST_F(Settings, SkinOutsideTheThreeSelectsNoOption) {
+    LoadSettings(program);
+    program.settings.Skin = "7";
+    PrefsControls controls;
+    SettingsToPrefs(program, controls);
+    EXPECT_FALSE(controls.Option3 || controls.Option4 || controls.Option5);
+}
+
+TEST_F(Settings, DialogSetsTheInnerFoldersFromTheGameFolder) {
+    LoadSettings(program);
+    PrefsToSettings(program, {.Text1 = "D:\\UT"});
+    EXPECT_EQ(program.gamePaths.UTPath, "D:\\UT");
+    EXPECT_EQ(program.gamePaths.UTCachePath, "D:\\UT\\cache");
+    EXPECT_EQ(program.gamePaths.UTMapPath, "D:\\UT\\maps");
+    EXPECT_EQ(program.gamePaths.UTSysPath, "D:\\UT\\system");
+}
+
+TEST_F(Settings, DialogWithoutASkinLeavesTheSkin) {
+    program.settings.Skin = "2";
+    PrefsToSettings(program, {});
+    EXPECT_EQ(program.settings.Skin, "2");
+    PrefsToSettings(program, {.Option4 = true});
+    EXPECT_EQ(program.settings.Skin, "1");
+}
+
+TEST_F(Settings, LaterOptionWinsWhereSeveralAreSet) {
+    PrefsToSettings(program, {.Option3 = true, .Option5 = true});
+    EXPECT_EQ(program.settings.Skin, "2");
+}
+
+TEST_F(Settings, DialogHandsOverFlagsAndHiddenTexts) {
+    PrefsToSettings(program, {.Check1 = 0,
+                              .Check2 = 1,
+                              .Check3 = 1,
+                              .Text5 = "C:\\Out",
+                              .Text6 = "Me",
+                              .Text7 = "Serif"});
+    EXPECT_TRUE(equalsNumber(program.settings.Sounds, 0));
+    EXPECT_TRUE(equalsNumber(program.settings.AutoSave, 1));
+    EXPECT_TRUE(equalsNumber(program.settings.ShowSplash, 1));
+    EXPECT_EQ(program.settings.ExtractDest, "C:\\Out");
+    EXPECT_EQ(program.settings.DefUser, "Me");
+    EXPECT_EQ(program.settings.ASCIIFont, "Serif");
+}
+
+}  // namespace
+}  // namespace tessaro::test

@@ -1,0 +1,111 @@
+#include "core/routines.h"
+
+#include <gtest/gtest.h>
+
+#include "support/testprogram.h"
+
+namespace tessaro::test {
+namespace {
+
+class Routines : public ::testing::Test {
+  protected:
+    void makeGame(std::initializer_list<const char*> folders) {
+        for (const char* folder : folders) game.world.makeFolder(std::string("C:\\UT\\") + folder);
+    }
+    /// How often the check asks the host for a name.
+    int questionsOfTheCheck() {
+        ValidatePaths(program, "C:\\UT");  // fills what is remembered of folders
+        const int before = game.world.host.count(Call::Status);
+        ValidatePaths(program, "C:\\UT");
+        return game.world.host.count(Call::Status) - before;
+    }
+
+    TestProgram game;
+    Program& program = game.program;
+};
+
+TEST_F(Routines, FormIsCentredAcrossAndALittleAboveTheMiddle) {
+    const Box placed = centeredOn({0, 0, 15360, 11520}, {0, 0, 6000, 4000});
+    EXPECT_DOUBLE_EQ(placed.left, 4680);
+    EXPECT_DOUBLE_EQ(placed.top, 11520 * 0.85 / 2 - 2000);
+    EXPECT_DOUBLE_EQ(placed.width, 6000);
+}
+
+TEST_F(Routines, PauseServesEventsUntilTheTimeIsOver) {
+    game.events.step = 0.25;
+    const double start = game.events.now;
+    Pause(game.events, 1.0);
+    EXPECT_DOUBLE_EQ(game.events.now, start + 1.0);
+    EXPECT_EQ(game.events.pumps, 4);
+}
+
+TEST_F(Routines, PauseOfNoTimeServesNoEvents) {
+    Pause(game.events, 0);
+    EXPECT_EQ(game.events.pumps, 0);
+}
+
+TEST_F(Routines, PauseAcrossMidnightWaitsUntilTheClockHasPassedItsStartAgain) {
+    constexpr double day = 86400;
+    game.events.now = day - 1;
+    game.events.step = 600;  // the clock stands at 599 after the first
+    Pause(game.events, 0.5);
+    EXPECT_EQ(game.events.pumps, 144);
+    EXPECT_DOUBLE_EQ(game.events.now, day - 1);
+}
+
+TEST_F(Routines, FolderExistsAlsoWhereAFileHasThatName) {
+    game.world.write("C:\\UT\\System\\user.ini", "x");
+    EXPECT_EQ(DirExists(program, "C:\\UT\\System"), Yes);
+    EXPECT_EQ(DirExists(program, "c:\\ut\\SYSTEM"), Yes);
+    EXPECT_EQ(DirExists(program, "C:\\UT\\System\\user.ini"), Yes);
+    EXPECT_EQ(DirExists(program, "C:\\UT\\Maps"), No);
+}
+
+TEST_F(Routines, EmptyPathStandsForTheCurrentFolder) {
+    game.world.makeFolder("C:\\UT");
+    program.paths.changeFolder("C:\\UT");
+    EXPECT_EQ(DirExists(program, ""), Yes);
+}
+
+TEST_F(Routines, FileExistsForHiddenFilesButNotForFolders) {
+    game.world.write("C:\\UT\\.hidden", "");
+    game.world.write("C:\\UT\\Read Me.txt", "x");
+    game.world.makeFolder("C:\\UT\\Maps");
+    EXPECT_EQ(FileExists(program, "C:\\UT\\.hidden"), Yes);
+    EXPECT_EQ(FileExists(program, "c:\\ut\\read me.TXT"), Yes);
+    EXPECT_EQ(FileExists(program, "C:\\UT\\Maps"), No);
+    EXPECT_EQ(FileExists(program, "C:\\UT\\none"), No);
+}
+
+TEST_F(Routines, ExistenceTestsNeverRaise) {
+    EXPECT_EQ(DirExists(program, "Q:\\nowhere"), No);
+    EXPECT_EQ(FileExists(program, "Q:\\nowhere"), No);
+    game.world.host.refuse(Call::Status, errors::PermissionDenied);
+    EXPECT_EQ(DirExists(program, "C:\\"), No);
+    EXPECT_EQ(FileExists(program, "C:\\x"), No);
+}
+
+TEST_F(Routines, FiveFoldersMakeAValidGame) {
+    makeGame({"Sounds", "Maps", "Textures", "System", "Cache"});
+    EXPECT_EQ(ValidatePaths(program, "C:\\UT"), Yes);
+}
+
+TEST_F(Routines, CheckStopsAtTheFirstMissingFolder) {
+    makeGame({"Sounds", "Maps", "System", "Cache"});
+    const int untilTextures = questionsOfTheCheck();
+    makeGame({"Textures"});
+    const int untilCache = questionsOfTheCheck();
+    // What is asked for "\\system" and "\\cache" makes the difference.
+    EXPECT_LT(untilTextures, untilCache);
+    EXPECT_EQ(ValidatePaths(program, "C:\\UT"), Yes);
+}
+
+TEST_F(Routines, SoundIsStartedFromItsBytesWhateverTheCase) {
+    PlaySoundResource(program, "GodLike");
+    EXPECT_EQ(game.sounds.names, std::vector<std::string>{"godlike"});
+    EXPECT_EQ(program.SoundBuffer, game.sounds.resource("godlike"));
+    EXPECT_EQ(program.SoundResult, 1);
+}
+
+}  // namespace
+}  // namespace tessaro::test

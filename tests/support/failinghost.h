@@ -1,0 +1,74 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/host.h"
+
+namespace tessaro::test {
+
+enum class Call {
+    Status,
+    List,
+    Read,
+    Create,
+    Touch,
+    Copy,
+    Rename,
+    Flush,
+    RemoveFile,
+    MakeFolder,
+    ChangeFolder
+};
+
+/// Passes everything on to a real host, but fails where it is told to, for root too.
+class FailingHost : public Host {
+  public:
+    explicit FailingHost(Host& real) : real_(real) {}
+
+    /// From now on this call raises `number` for paths that contain `part`.
+    void refuse(Call call, int number, std::string part = {});
+    /// So many bytes can still be written; what goes beyond raises 61 and leaves a fragment.
+    void setDiskSpace(std::size_t bytes) { space_ = bytes; }
+    /// Files whose path contains `part` cannot be written.
+    void protect(std::string part) { protected_ = std::move(part); }
+    /// A folder is gone with all that is in it.
+    void vanish(const HostPath& folder) { vanished_ = folder.native(); }
+    /// Nothing fails any more.
+    void relent();
+    /// How often a call was made.
+    int count(Call call) const;
+
+    std::optional<HostStatus> status(const HostPath& path) override;
+    std::vector<std::string> list(const HostPath& folder) override;
+    bool writable(const HostPath& path) override;
+    std::string read(const HostPath& file) override;
+    std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override;
+    void touch(const HostPath& file) override;
+    void copy(const HostPath& from, const HostPath& to, const HostPath& like) override;
+    void rename(const HostPath& from, const HostPath& to) override;
+    void flushFolder(const HostPath& folder) override;
+    void removeFile(const HostPath& file) override;
+    void makeFolder(const HostPath& folder) override;
+    HostPath target(const HostPath& path) override;
+    HostPath currentFolder() override;
+    void changeFolder(const HostPath& folder) override;
+
+  private:
+    struct Refusal {
+        int number;
+        std::string part;
+    };
+    void pass(Call call, const HostPath& path);
+
+    Host& real_;
+    std::map<Call, Refusal> refusals_;
+    std::map<Call, int> counts_;
+    std::optional<std::size_t> space_;
+    std::optional<std::string> protected_;
+    std::optional<HostPath::string_type> vanished_;
+};
+
+}  // namespace tessaro::test

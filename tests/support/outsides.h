@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/events.h"
+#include "platform/processes.h"
+#include "platform/sounds.h"
+
+namespace tessaro::test {
+
+/// Plays nothing and records the names of the sounds that were started, in lower case.
+class RecordingSounds : public Sounds {
+  public:
+    std::vector<std::string> names;
+
+    /// Some bytes that tell the sounds apart.
+    std::string resource(std::string_view name) override;
+    int start(std::string_view name) override;
+};
+
+/// A clock in the hand: each pump runs `onPump`, then moves the clock by `step` seconds.
+class ManualEvents : public Events {
+  public:
+    double now = 43200;  // noon
+    double step = 0.05;
+    int pumps = 0;
+    std::function<void()> onPump;
+
+    void pump() override;
+    double secondsSinceMidnight() override { return now; }
+};
+
+/// Starts nothing and records the command lines.
+class RecordingProcesses : public Processes {
+  public:
+    struct Run {
+        std::string commandLine;
+        Visibility visibility;
+        bool operator==(const Run&) const = default;
+    };
+    std::vector<Run> runs;
+    /// Does what the child would do.
+    std::function<void(const std::string& commandLine)> child;
+
+    void run(const std::string& commandLine, Visibility visibility) override;
+};
+
+}  // namespace tessaro::test

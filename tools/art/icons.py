@@ -1,0 +1,17 @@
+"""The window and tray icon in every size that desktops ask for."""
+
+import gem
+from draw import Canvas
+
+LARGE = (48, 64, 128, 256)
+
+
+def make(folder):
+    for size in gem.SMALL:
+        canvas = Canvas(size, size)
+        gem.draw_small(canvas, size)
+        canvas.save(folder / f"tessaro-{size}.png")
+    for size in LARGE:
+        canvas = Canvas(size, size)
+        gem.draw(canvas, size / 2, size / 2, size / 2)
+        canvas.save(folder / f"tessaro-{size}.png")

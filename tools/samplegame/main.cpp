@@ -1,0 +1,47 @@
+// tessaro-sample FOLDER SETTINGS: builds the sample game in FOLDER and writes a settings file that
+// points at it.
+
+#include <cstdio>
+#include <exception>
+
+#include "platform/drives.h"
+#include "platform/files.h"
+#include "platform/filetable.h"
+#include "platform/paths.h"
+#include "platform/profile.h"
+#include "tools/samplegame/samplegame.h"
+
+namespace {
+
+using namespace tessaro;
+
+void pointSettingsAt(const HostPath& game, const HostPath& settings) {
+    const auto host = makeHost();
+    Paths paths(*host, hostDrives());
+    Files files(*host, paths);
+    ProfileCalls profile(files);
+    const std::string root = paths.toGame(game);
+    const std::string file = paths.toGame(settings);
+    profile.writePrivateProfileString("UTPaths", "UTPath", root, file);
+    profile.writePrivateProfileString("UTPaths", "UTCachePath", root + "\\Cache", file);
+    profile.writePrivateProfileString("UTPaths", "UTMapPath", root + "\\Maps", file);
+    profile.writePrivateProfileString("UTPaths", "UTSysPath", root + "\\System", file);
+    profile.writePrivateProfileString("Common", "VORNX", root + "\\UTMaps", file);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fputs("Usage: tessaro-sample FOLDER SETTINGS\n", stderr);
+        return 2;
+    }
+    try {
+        const HostPath game = std::filesystem::absolute(argv[1]);
+        tessaro::sample::buildSampleGame(game);
+        pointSettingsAt(game, std::filesystem::absolute(argv[2]));
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "The sample game could not be made: %s\n", error.what());
+        return 1;
+    }
+}
