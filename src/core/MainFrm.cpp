@@ -70,7 +70,8 @@ void MainFrm::showSplash() {
     forms().showModal<splash>();
 }
 
-// Touching the folder box loads the dialog, which reads the game's files and may ask for the folder.
+// Touching the folder box loads the dialog, which reads the game's files and may ask for the
+// folder.
 std::string MainFrm::folderToValidate() {
     return forms().get<Prefs>().folder();
 }

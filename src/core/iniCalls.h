@@ -9,9 +9,9 @@ namespace tessaro {
 /// The controls of the preferences dialog that hold options. A check box's value is 0, 1 or 2.
 struct PrefsControls {
     std::string Text1{};  ///< game folder
-    int Check1 = 0;     ///< sounds
-    int Check2 = 0;     ///< save at exit
-    int Check3 = 0;     ///< splash
+    int Check1 = 0;       ///< sounds
+    int Check2 = 0;       ///< save at exit
+    int Check3 = 0;       ///< splash
     std::string Text5{};  ///< destination of the extractor
     std::string Text6{};  ///< player of the User Manager
     std::string Text7{};  ///< font of the character chart

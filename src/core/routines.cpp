@@ -15,9 +15,13 @@ Box centeredOn(const Box& screen, const Box& form) {
 
 void Pause(Events& events, double seconds) {
     const double start = events.secondsSinceMidnight();
-    // At midnight the clock falls back to 0 and the difference below zero: the wait then lasts
-    // until the clock has passed `start` again.
-    while (events.secondsSinceMidnight() - start < seconds) events.pump();
+    // At midnight the clock falls back to 0, and the wait lasts until it has passed `start` again.
+    // `start` + `seconds` may lie beyond what the clock can show.
+    double wanted = seconds;
+    for (double passed = 0; passed < wanted; passed = events.secondsSinceMidnight() - start) {
+        if (passed < 0) wanted = 0;
+        events.pump();
+    }
 }
 
 namespace {

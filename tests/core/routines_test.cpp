@@ -45,12 +45,11 @@ TEST_F(Routines, PauseOfNoTimeServesNoEvents) {
 }
 
 TEST_F(Routines, PauseAcrossMidnightWaitsUntilTheClockHasPassedItsStartAgain) {
-    constexpr double day = 86400;
-    game.events.now = day - 1;
-    game.events.step = 600;  // the clock stands at 599 after the first
+    game.events.now = 86399.75;
+    game.events.step = 600;
     Pause(game.events, 0.5);
-    EXPECT_EQ(game.events.pumps, 144);
-    EXPECT_DOUBLE_EQ(game.events.now, day - 1);
+    EXPECT_EQ(game.events.pumps, 1 + 143);
+    EXPECT_DOUBLE_EQ(game.events.now, 599.75 + 143 * 600);
 }
 
 TEST_F(Routines, FolderExistsAlsoWhereAFileHasThatName) {
