@@ -224,7 +224,7 @@ TEST_F(ExtractionRun, FileWithoutAKindCostsItsPauseAndNothingElse) {
 
 TEST_F(ExtractionRun, EachPresentFilePausesATenthOfASecond) {
     indexOf({"a.u", "b.u", "c.int"});
-    game.events.step = 0.1;
+    game.events.step = 0.125;  // exact in binary
     run();
     EXPECT_EQ(game.events.pumps, 1 + 3);
 }
