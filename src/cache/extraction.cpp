@@ -127,7 +127,7 @@ void Extraction::askToClose() {
         program_.dialogs.message({"Extraction Complete, Do you wish to close this window?",
                                   "Map Extractions Completed", Buttons::YesNo, Icon::None});
     if (answer == Answer::Yes) {
-        observer_.close();
+        observer_.closeRequested();
     } else {
         StopExtraction();
     }

@@ -25,7 +25,7 @@ class ExtractionObserver {
     /// Whether an existing file is to be replaced; asked for each one.
     virtual bool overwriteExisting() = 0;
     /// The user wants the window closed.
-    virtual void close() = 0;
+    virtual void closeRequested() = 0;
 };
 
 /// Walks the cache index from its first line to its last and copies each package that is still in

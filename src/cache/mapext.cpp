@@ -5,6 +5,7 @@
 #include "cache/wizard.h"
 #include "core/VORNX.h"
 #include "core/routines.h"
+#include "forms/columns.h"
 #include "forms/handler.h"
 #include "forms/placement.h"
 #include "forms/text.h"
@@ -26,13 +27,17 @@ mapext::mapext(Forms& forms)
     setupDefaultButtons();
 }
 
-mapext::~mapext() = default;
+mapext::~mapext() {
+    // The focus changes once more while the form's window goes, after our controls are gone.
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 Program& mapext::program() {
     return forms().program();
 }
 
 void mapext::setupStepOne() {
+    ui_->Command4->setMaximumWidth(3 * ui_->Command4->fontMetrics().height());
     ui_->Drive1->use(program().files);
     ui_->Dir1->use(program().files);
     on(ui_->Drive1, &DriveList::changed, forms(), [this] { changeDrive(); });
@@ -54,6 +59,7 @@ void mapext::setupStepTwo() {
 
 void mapext::setupStepThree() {
     ui_->ListView1->show(extraction_.ListView1);
+    setColumnWidths(*ui_->ListView1, {0, 16, 12});
     on(ui_->ListView1, &ListView::columnClicked, forms(), [this](int column) { sortBy(column); });
     on(ui_->Command8, &QPushButton::clicked, forms(), [this] { extract(); });
     on(ui_->Command3, &QPushButton::clicked, forms(), [this] { extraction_.StopExtraction(); });
@@ -189,7 +195,7 @@ bool mapext::overwriteExisting() {
     return ui_->Check1->isChecked();
 }
 
-void mapext::close() {
+void mapext::closeRequested() {
     forms().unload(*this);
 }
 

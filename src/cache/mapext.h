@@ -49,7 +49,7 @@ class mapext : public SkinnedForm, private ExtractionObserver {
     void setBusyPointer(bool busy) override;
     bool stopped() override;
     bool overwriteExisting() override;
-    void close() override;
+    void closeRequested() override;
 
     Program& program();
 

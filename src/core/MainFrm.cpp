@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "cache/mapext.h"
+#include "compress/comp.h"
+#include "compress/decomp.h"
 #include "core/splash.h"
 #include "forms/forms.h"
 #include "forms/handler.h"
@@ -16,11 +18,16 @@
 #include "ui_MainFrm.h"
 
 namespace tessaro::forms {
+namespace {
+
+const QColor groundOfPicture(0x0A, 0x16, 0x22);
+
+}  // namespace
 
 MainFrm::MainFrm(Forms& forms)
     : FormWindow(forms), INI(forms.program().makeINI()), ui_(std::make_unique<Ui::MainFrm>()) {
     ui_->setupUi(this);
-    ui_->client->setPalette(QPalette(Qt::black));
+    ui_->client->setPalette(QPalette(groundOfPicture));
     ui_->Image1->setPixmap(QPixmap(QStringLiteral(":/pictures/main.png")));
     setMinimumSize(pixels(smallestMainWindow.width), pixels(smallestMainWindow.height));
     setupMenus();
@@ -33,6 +40,9 @@ void MainFrm::setupMenus() {
                {
                    {"mnumapextractor", [this] { forms().show<mapext>(); }},
                    {"mnurmapext", [this] { forms().showModal<mapext>(); }},
+                   {"mnumapcompress", [this] { forms().show<comp>(); }},
+                   {"mnurcompress", [this] { forms().show<comp>(); }},
+                   {"mnudecomp", [this] { forms().show<decomp>(); }},
                    {"mnuprefs", [this] { showPrefs(); }},
                    {"mnurprefs", [this] { showPrefs(); }},
                    {"mnuexit", [this] { exitProgram(); }},

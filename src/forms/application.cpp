@@ -20,7 +20,7 @@ Application::Application(int& argc, char** argv)
       drives_(hostDrives()),
       dialogs_(programEnd_, *host_, drives_),
       events_(programEnd_),
-      processes_(makeProcesses(*host_, drives_, [this] { events_.pump(); })),
+      processes_(makeProcesses(*host_, drives_, [this] { events_.repaint(); })),
       program_(*host_, drives_, {dialogs_, sounds_, *processes_, events_},
                runningProgram(*host_, drives_)),
       forms_(program_, programEnd_) {

@@ -3,6 +3,7 @@
 #include <QScreen>
 
 #include "core/routines.h"
+#include "forms/frame.h"
 #include "forms/twips.h"
 
 namespace tessaro::forms {
@@ -17,8 +18,11 @@ Box boxOf(const QRect& rectangle) {
 
 void CenterForm(QWidget& form) {
     const QRect screen = form.screen()->geometry();
-    const Box placed = centeredOn(boxOf(screen), boxOf(form.frameGeometry()));
-    form.move(screen.topLeft() + QPoint(pixels(placed.left), pixels(placed.top)));
+    const QRect frame = form.frameGeometry();
+    const Box placed = centeredOn(boxOf(screen), boxOf(frame));
+    const QPoint corner = screen.topLeft() + QPoint(pixels(placed.left), pixels(placed.top));
+    // On a small screen the formula would put the top out of reach.
+    form.move(fittedInto(screen, QRect(corner, frame.size())).topLeft());
 }
 
 }  // namespace tessaro::forms

@@ -1,5 +1,7 @@
 #include "forms/qtevents.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QEventLoop>
 #include <QTime>
 #include <QTimer>
@@ -8,6 +10,33 @@ namespace tessaro::forms {
 namespace {
 
 constexpr int idleMilliseconds = 5;
+
+/// Swallows what the user does with mouse, keys and window frames.
+class InputFilter : public QObject {
+  public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::Wheel:
+            case QEvent::KeyPress:
+            case QEvent::KeyRelease:
+            case QEvent::Shortcut:
+            case QEvent::ShortcutOverride:
+            case QEvent::DragEnter:
+            case QEvent::Drop:
+                return true;
+            case QEvent::Close:
+                // The frame's close button; the end of the desktop's session has its own way.
+                if (!event->spontaneous()) return false;
+                event->ignore();
+                return true;
+            default:
+                return false;
+        }
+    }
+};
 
 }  // namespace
 
@@ -18,6 +47,13 @@ void QtEvents::pump() {
         wakeUp.start(idleMilliseconds);
         loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     }
+    end_.throwIfEnded();
+}
+
+void QtEvents::repaint() {
+    InputFilter filter;
+    QCoreApplication::instance()->installEventFilter(&filter);
+    QEventLoop().processEvents(QEventLoop::AllEvents);
     end_.throwIfEnded();
 }
 

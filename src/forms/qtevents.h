@@ -15,6 +15,10 @@ class QtEvents : public Events {
     void pump() override;
     double secondsSinceMidnight() override;
 
+    /// Lets the windows paint while a child process runs. What the user presses meanwhile is lost
+    /// on purpose: it was meant for a window that could not answer.
+    void repaint();
+
   private:
     const ProgramEnd& end_;
 };

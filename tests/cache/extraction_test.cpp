@@ -27,7 +27,7 @@ class Watcher : public ExtractionObserver {
     void setBusyPointer(bool now) override { busy = now; }
     bool stopped() override { return !running; }
     bool overwriteExisting() override { return overwrite; }
-    void close() override { ++closings; }
+    void closeRequested() override { ++closings; }
 };
 
 std::string guidOf(int number) {

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QWidget>
 #include <functional>
+#include <stdexcept>
+#include <string>
 
 #include "forms/forms.h"
 #include "support/testprogram.h"
@@ -54,6 +56,14 @@ Window* visibleWindow(const char* name) {
             return window;
     }
     return nullptr;
+}
+
+/// A control of a form by its name.
+template <class Control>
+Control& control(forms::Form& form, const char* name) {
+    auto* found = form.window().findChild<Control*>(QLatin1String(name));
+    if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
+    return *found;
 }
 
 }  // namespace tessaro::test

@@ -1,0 +1,392 @@
+#include "cache/mapext.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QRadioButton>
+#include <QTest>
+
+#include "forms/drivelist.h"
+#include "forms/folderlist.h"
+#include "forms/listview.h"
+#include "forms/text.h"
+#include "support/forms/gameforms.h"
+
+namespace tessaro::test {
+namespace {
+
+using forms::mapext;
+using Names = std::vector<std::string>;
+
+const Message closingQuestion{"Extraction Complete, Do you wish to close this window?",
+                              "Map Extractions Completed", Buttons::YesNo, Icon::None};
+
+class WizardForm : public GameFormsTest {
+  protected:
+    WizardForm() {
+        const std::string game = "C:\\UnrealTournament";
+        program_.gamePaths = {game, game + "\\Cache", game + "\\Maps", game + "\\System"};
+        program_.settings.Sounds = "0";
+        program_.settings.Skin = "1";
+    }
+    /// An index of three maps that are there and one that is gone.
+    void makeCache() {
+        std::string index = "[Cache]\r\n";
+        for (const char letter : std::string("ABC")) {
+            const std::string guid(32, letter);
+            disk_.write(cache_ + "\\" + guid + ".uxx", std::string(2345, letter));
+            index += guid + "=DM-" + letter + ".unr\r\n";
+        }
+        disk_.write(cache_ + "\\cache.ini", index + std::string(32, 'D') + "=Gone.u\r\n");
+    }
+    mapext& shown() {
+        forms::guarded(forms_, [this] { forms_.show<mapext>(); });
+        return wizard();
+    }
+    mapext& wizard() { return forms_.get<mapext>(); }
+    template <class Control>
+    Control& the(const char* name) {
+        return control<Control>(wizard(), name);
+    }
+    std::string textOf(const char* box) { return forms::fromQt(the<QLineEdit>(box).text()); }
+    void press(const char* button) {
+        QTest::mouseClick(&the<QAbstractButton>(button), Qt::LeftButton);
+    }
+    bool visible(const char* name) { return the<QWidget>(name).isVisible(); }
+    void type(const char* box, const std::string& text) {
+        the<QLineEdit>(box).setText(forms::toQt(text));
+    }
+    /// To step three, with the current installation as destination.
+    void goToStepThree() {
+        makeCache();
+        shown();
+        press("next");
+        press("Command5");
+    }
+
+    const std::string cache_ = "C:\\UnrealTournament\\Cache";
+};
+
+TEST_F(WizardForm, LoadPointsAtTheCacheAndOffersTheLastDestination) {
+    makeCache();
+    settings("[Common]\r\nVORNX=C:\\Mine\r\n");
+    shown();
+    EXPECT_EQ(wizard().windowTitle(), QStringLiteral("UT Cached Files Extractor"));
+    EXPECT_EQ(wizard().Title->text(), QStringLiteral("Map Extractor"));
+    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), cache_);
+    EXPECT_EQ(the<forms::DriveList>("Drive1").drive(), "c:");
+    EXPECT_EQ(textOf("Text1"), cache_);
+    EXPECT_EQ(textOf("Text2"), "C:\\Mine");
+    EXPECT_EQ(program_.settings.ExtractDest, "C:\\Mine");
+    EXPECT_EQ(the<QLabel>("validdir").text(), QStringLiteral("Valid Directory!"));
+    EXPECT_TRUE(the<QWidget>("next").isEnabled());
+}
+
+TEST_F(WizardForm, FolderWithoutAnIndexDoesNotLeadOn) {
+    shown();
+    EXPECT_EQ(the<QLabel>("validdir").text(), QStringLiteral("Not a valid Directory."));
+    EXPECT_FALSE(the<QWidget>("next").isEnabled());
+}
+
+TEST_F(WizardForm, MissingCacheFolderEndsTheProgram) {
+    std::filesystem::remove(disk_.at(cache_));
+    world_.dialogs.answer(Answer::Ok);
+    forms::guarded(forms_, [this] { forms_.show<mapext>(); });
+    ASSERT_EQ(world_.dialogs.messages.size(), 1u);
+    EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '76':\n\nPath not found");
+    EXPECT_TRUE(forms_.ended());
+}
+
+TEST_F(WizardForm, StepsSwapTheirFrames) {
+    makeCache();
+    shown();
+    EXPECT_TRUE(visible("Frame3"));
+    press("next");
+    EXPECT_FALSE(visible("Frame3"));
+    EXPECT_TRUE(visible("Frame4"));
+    press("Command6");
+    EXPECT_TRUE(visible("Frame3"));
+    press("next");
+    press("Command5");
+    EXPECT_FALSE(visible("Frame4"));
+    EXPECT_TRUE(visible("Frame5"));
+    press("Command9");
+    EXPECT_TRUE(visible("Frame4"));
+}
+
+TEST_F(WizardForm, NextPutsTheCacheFolderIntoTheMapPath) {
+    makeCache();
+    shown();
+    press("next");
+    EXPECT_EQ(program_.gamePaths.UTMapPath, cache_);
+}
+
+TEST_F(WizardForm, ChangeOfFolderIsFollowed) {
+    disk_.write("C:\\Other\\cache.ini", "");
+    shown();
+    the<forms::FolderList>("Dir1").setPath("C:\\Other");
+    EXPECT_EQ(textOf("Text1"), "C:\\Other");
+    EXPECT_EQ(program_.paths.currentFolder(), "C:\\Other");
+    EXPECT_TRUE(the<QWidget>("next").isEnabled());
+}
+
+TEST_F(WizardForm, ChangeOfDriveGoesToItsRootAndMakesItCurrent) {
+    shown();
+    the<forms::DriveList>("Drive1").setDrive("z");
+    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), "Z:\\");
+    EXPECT_EQ(textOf("Text1"), "Z:\\");
+    EXPECT_EQ(program_.paths.currentFolder(), "Z:\\");
+}
+
+TEST_F(WizardForm, DriveRootWithAnIndexIsValid) {
+    disk_.write("C:\\cache.ini", "");
+    shown();
+    the<forms::FolderList>("Dir1").setPath("C:\\");
+    EXPECT_TRUE(the<QWidget>("next").isEnabled());
+}
+
+TEST_F(WizardForm, TypedFolderCountsOnlyOnceItIsConfirmed) {
+    disk_.write("C:\\Other\\cache.ini", "");
+    shown();
+    type("Text1", "C:\\other");
+    EXPECT_FALSE(the<QWidget>("next").isEnabled());
+    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), cache_);
+    press("Command4");
+    EXPECT_TRUE(the<QWidget>("next").isEnabled());
+    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), "C:\\Other");
+}
+
+TEST_F(WizardForm, EnterInTheTextConfirmsIt) {
+    disk_.write("C:\\Other\\cache.ini", "");
+    shown();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&wizard()));
+    the<QWidget>("Text1").setFocus();
+    type("Text1", "C:\\Other");
+    QTest::keyClick(&the<QWidget>("Text1"), Qt::Key_Return);
+    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), "C:\\Other");
+    EXPECT_TRUE(visible("Frame3"));
+}
+
+TEST_F(WizardForm, TypedFolderThatIsNotThereChangesNothing) {
+    makeCache();
+    shown();
+    type("Text1", "C:\\None");
+    press("Command4");
+    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), cache_);
+    EXPECT_TRUE(the<QWidget>("next").isEnabled());
+}
+
+class WizardDestination : public WizardForm {
+  protected:
+    void goToStepTwo() {
+        makeCache();
+        shown();
+        press("next");
+    }
+};
+
+TEST_F(WizardDestination, NewFolderControlsShowForTheNewFolderOnly) {
+    goToStepTwo();
+    for (const char* name : {"Text2", "Command10", "Command1"}) EXPECT_FALSE(visible(name));
+    the<QRadioButton>("Option2").click();
+    for (const char* name : {"Text2", "Command10", "Command1"}) EXPECT_TRUE(visible(name));
+    the<QRadioButton>("Option1").click();
+    for (const char* name : {"Text2", "Command10", "Command1"}) EXPECT_FALSE(visible(name));
+}
+
+TEST_F(WizardDestination, MissingLastDestinationFallsBackToTheGame) {
+    goToStepTwo();
+    EXPECT_EQ(textOf("Text2"), "C:\\UTMaps");
+    the<QRadioButton>("Option2").click();
+    EXPECT_EQ(textOf("Text2"), "C:\\UnrealTournament");
+}
+
+TEST_F(WizardDestination, BrowsingSetsTheFolderAndCancellingDoesNot) {
+    goToStepTwo();
+    the<QRadioButton>("Option2").click();
+    world_.dialogs.pick("C:\\Out");
+    press("Command10");
+    world_.dialogs.pick("");
+    press("Command10");
+    EXPECT_EQ(world_.dialogs.pickers[0], "Where Do you wish to Extract your Map Files to?");
+    EXPECT_EQ(textOf("Text2"), "C:\\Out");
+    EXPECT_EQ(program_.settings.ExtractDest, "C:\\Out");
+}
+
+TEST_F(WizardDestination, NewFolderReachesTheTextButNotTheOfferedDestination) {
+    goToStepTwo();
+    the<QRadioButton>("Option2").click();
+    world_.dialogs.type("Mine");
+    press("Command1");
+    EXPECT_EQ(textOf("Text2"), "Mine");
+    EXPECT_TRUE(disk_.exists("C:\\UnrealTournament\\Mine"));
+    EXPECT_EQ(program_.settings.ExtractDest, "C:\\UTMaps");
+}
+
+TEST_F(WizardDestination, RelativeDestinationFailsAtTheStart) {
+    goToStepTwo();
+    the<QRadioButton>("Option2").click();
+    world_.dialogs.type("Mine");
+    press("Command1");
+    press("Command5");
+    EXPECT_EQ(textOf("Text6"), "Mine\\");
+    world_.dialogs.answer(Answer::Ok);
+    press("Command8");
+    EXPECT_EQ(world_.dialogs.messages.back().text, "Run-time error '76':\n\nPath not found");
+    EXPECT_TRUE(forms_.ended());
+}
+
+TEST_F(WizardDestination, BothChoicesOfOneRootShowTheSameText) {
+    goToStepTwo();
+    press("Command5");
+    EXPECT_EQ(textOf("Text6"), "C:\\UnrealTournament\\");
+    press("Command9");
+    the<QRadioButton>("Option2").click();
+    press("Command5");
+    EXPECT_EQ(textOf("Text6"), "C:\\UnrealTournament\\");
+}
+
+class WizardRun : public WizardForm {};
+
+TEST_F(WizardRun, CopiesShowsAndStaysAfterNo) {
+    goToStepThree();
+    world_.dialogs.answer(Answer::No);
+    world_.dialogs.whileOpen = [&] {
+        EXPECT_FALSE(the<QWidget>("Command8").isEnabled());
+        EXPECT_TRUE(the<QWidget>("Command3").isEnabled());
+    };
+    press("Command8");
+    EXPECT_EQ(world_.dialogs.messages, std::vector<Message>{closingQuestion});
+    EXPECT_EQ(disk_.read("C:\\UnrealTournament\\Maps\\DM-B.unr"), std::string(2345, 'B'));
+    EXPECT_EQ(textOf("Text3"), cache_ + "\\" + std::string(32, 'C') + ".uxx");
+    EXPECT_EQ(textOf("Text4"), "DM-C.unr");
+    EXPECT_EQ(textOf("Text5"), "2kb");
+    EXPECT_EQ(textOf("Text7"), "2");
+    EXPECT_EQ(textOf("Text8"), "1");
+    EXPECT_EQ(textOf("Text9"), "0");
+    EXPECT_EQ(the<forms::ListView>("ListView1").items()->count(), 3u);
+    EXPECT_TRUE(the<QWidget>("Command8").isEnabled());
+    EXPECT_FALSE(the<QWidget>("Command3").isEnabled());
+    EXPECT_NE(wizard().cursor().shape(), Qt::WaitCursor);
+}
+
+TEST_F(WizardRun, OverwritesOnlyWhereTheBoxIsTicked) {
+    disk_.write("C:\\UnrealTournament\\Maps\\DM-A.unr", "mine");
+    goToStepThree();
+    world_.dialogs.answer(Answer::No);
+    press("Command8");
+    EXPECT_EQ(disk_.read("C:\\UnrealTournament\\Maps\\DM-A.unr"), "mine");
+    the<QCheckBox>("Check1").setChecked(true);
+    world_.dialogs.answer(Answer::No);
+    press("Command8");
+    EXPECT_EQ(disk_.read("C:\\UnrealTournament\\Maps\\DM-A.unr"), std::string(2345, 'A'));
+    EXPECT_EQ(textOf("Text9"), "3");
+}
+
+TEST_F(WizardRun, StopDuringAPauseEndsItAfterTheFileUnderWork) {
+    goToStepThree();
+    bool pointerWasBusy = false;
+    world_.events.onPump = [&] {
+        if (!the<QWidget>("Command3").isEnabled()) return;
+        pointerWasBusy = wizard().cursor().shape() == Qt::WaitCursor;
+        press("Command3");
+    };
+    press("Command8");
+    EXPECT_TRUE(pointerWasBusy);
+    EXPECT_EQ(disk_.names("C:\\UnrealTournament\\Maps"), Names{"DM-A.unr"});
+    EXPECT_TRUE(the<QWidget>("Command8").isEnabled());
+    EXPECT_NE(wizard().cursor().shape(), Qt::WaitCursor);
+}
+
+TEST_F(WizardRun, BackDuringARunOnlySwapsTheFrames) {
+    goToStepThree();
+    world_.events.onPump = [&] {
+        if (visible("Frame5")) press("Command9");
+    };
+    world_.dialogs.answer(Answer::No);
+    press("Command8");
+    EXPECT_TRUE(visible("Frame4"));
+    EXPECT_EQ(disk_.names("C:\\UnrealTournament\\Maps").size(), 3u);
+}
+
+TEST_F(WizardRun, ClosingDuringARunLeadsToTheQuestionAndNoFurther) {
+    goToStepThree();
+    world_.events.onPump = [&] {
+        if (forms_.loaded<mapext>() != nullptr && !the<QWidget>("Command8").isEnabled())
+            wizard().close();
+    };
+    world_.dialogs.answer(Answer::Yes);
+    press("Command8");
+    EXPECT_EQ(forms_.loaded<mapext>(), nullptr);
+    EXPECT_EQ(world_.dialogs.messages, std::vector<Message>{closingQuestion});
+    EXPECT_EQ(disk_.names("C:\\UnrealTournament\\Maps"), Names{"DM-A.unr"});
+}
+
+TEST_F(WizardRun, YesClosesTheWizardAndStoresTheDestination) {
+    goToStepThree();
+    type("Text2", "C:\\Elsewhere");
+    world_.dialogs.answer(Answer::Yes);
+    press("Command8");
+    EXPECT_EQ(forms_.loaded<mapext>(), nullptr);
+    EXPECT_NE(savedSettings().find("VORNX=C:\\Elsewhere"), std::string::npos);
+}
+
+TEST_F(WizardRun, ColumnClicksSortAndNeverTurnBack) {
+    goToStepThree();
+    world_.dialogs.answer(Answer::No);
+    press("Command8");
+    const auto& rows = *the<forms::ListView>("ListView1").items();
+    const auto click = [&](int column) {
+        Q_EMIT the<forms::ListView>("ListView1").columnClicked(column);
+        return std::pair{rows.sortKey(), rows.sortOrder()};
+    };
+    EXPECT_EQ(click(1), (std::pair{0, 0}));
+    EXPECT_EQ(click(1), (std::pair{0, 0}));  // 0 is compared with 1
+    EXPECT_EQ(click(2), (std::pair{1, 0}));
+    EXPECT_EQ(click(1), (std::pair{0, 1}));  // 1 is the last column, counted from 0
+    EXPECT_EQ(click(1), (std::pair{0, 1}));
+    EXPECT_EQ(rows.item(1).text, "DM-C.unr");
+}
+
+TEST_F(WizardForm, CloseButtonAndCancelUnload) {
+    for (const char* button : {"CommandX", "Command2"}) {
+        shown();
+        press(button);
+        EXPECT_EQ(forms_.loaded<mapext>(), nullptr) << button;
+    }
+}
+
+TEST_F(WizardForm, EveryControlHasAnAccessibleNameOrText) {
+    shown();
+    for (const QWidget* widget : wizard().findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith(u"qt_"))
+            continue;
+        if (qobject_cast<const QLabel*>(widget) != nullptr) continue;
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const bool named =
+            !widget->accessibleName().isEmpty() || (button != nullptr && !button->text().isEmpty());
+        EXPECT_TRUE(named) << widget->objectName().toStdString();
+    }
+}
+
+TEST_F(WizardForm, NothingIsClippedAtAnyFontSize) {
+    makeCache();
+    for (const int points : {9, 11, 14}) {
+        mapext& form = shown();
+        QFont font = form.font();
+        font.setPointSize(points);
+        form.setFont(font);
+        form.adjustSize();
+        serveEvents();
+        for (const QAbstractButton* button : form.findChildren<QAbstractButton*>()) {
+            if (!button->isVisible()) continue;
+            EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(button->text()))
+                << button->objectName().toStdString() << " at " << points;
+        }
+        forms_.unload(form);
+    }
+}
+
+}  // namespace
+}  // namespace tessaro::test

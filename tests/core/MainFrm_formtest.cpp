@@ -1,0 +1,170 @@
+#include "core/MainFrm.h"
+
+#include <QLabel>
+#include <QStatusBar>
+#include <QTest>
+
+#include "cache/mapext.h"
+#include "forms/twips.h"
+#include "prefs/Prefs.h"
+#include "support/forms/gameforms.h"
+
+namespace tessaro::test {
+namespace {
+
+using forms::MainFrm;
+using Names = std::vector<std::string>;
+
+class MainWindowForm : public GameFormsTest {
+  protected:
+    /// Applies a state as the desktop would and lets the window hear of it.
+    void setState(MainFrm& window, int state) {
+        window.setState(state);
+        serveEvents();
+    }
+};
+
+TEST_F(MainWindowForm, StartsWithoutASettingsFileAndMakesOne) {
+    std::filesystem::remove(disk_.at("C:\\Tessaro\\vornx.ini"));
+    const WhenItComes splash(
+        [&] { return visibleWindow<QWidget>("splash") != nullptr; },
+        [&] { QTest::mouseClick(visibleWindow<QWidget>("splash"), Qt::LeftButton); });
+    EXPECT_TRUE(start().isVisible());
+    EXPECT_TRUE(splash.acted());
+    EXPECT_EQ(sounds_, (Names{"roger", "godlike"}));
+    EXPECT_NE(savedSettings().find("TimesUsed=2\r\n"), std::string::npos);
+}
+
+TEST_F(MainWindowForm, ShowsItsCaptionAndOnceActiveItsName) {
+    MainFrm& window = start();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Ovrin Tessaro v3"));
+    EXPECT_EQ(control<QStatusBar>(window, "StatusBar1").currentMessage(),
+              QStringLiteral("Tessaro"));
+    EXPECT_EQ(sounds_, Names{"godlike"});
+}
+
+TEST_F(MainWindowForm, CannotBeMadeSmallerThanItsLimits) {
+    MainFrm& window = start();
+    window.resize(10, 10);
+    serveEvents();
+    EXPECT_EQ(window.width(), forms::pixels(8000));
+    EXPECT_EQ(window.height(), forms::pixels(6000));
+    window.resize(700, 10);
+    serveEvents();
+    EXPECT_EQ(window.size(), QSize(700, forms::pixels(6000)));
+}
+
+TEST_F(MainWindowForm, PictureFollowsTheWindow) {
+    MainFrm& window = start();
+    window.resize(900, 600);
+    serveEvents();
+    const QSize picture = control<QLabel>(window, "Image1").size();
+    EXPECT_EQ(picture.width(), window.frameSize().width());
+    EXPECT_EQ(picture.height(), window.frameSize().height() - forms::pixels(1010));
+}
+
+TEST_F(MainWindowForm, MaximisingPlaysOnceAndRestoringIsSilent) {
+    MainFrm& window = start();
+    sounds_.clear();
+    setState(window, windowstate::Maximised);
+    EXPECT_EQ(sounds_, Names{"wopen"});
+    EXPECT_EQ(program_.settings.WindowSize, "2");
+    setState(window, windowstate::Normal);
+    EXPECT_EQ(sounds_, Names{"wopen"});
+    EXPECT_EQ(program_.settings.WindowSize, "0");
+}
+
+TEST_F(MainWindowForm, MinimisingPlaysAndIsNotStored) {
+    MainFrm& window = start();
+    sounds_.clear();
+    setState(window, windowstate::Minimised);
+    EXPECT_EQ(sounds_, Names{"wclose"});
+    EXPECT_EQ(program_.settings.WindowSize, "0");
+}
+
+TEST_F(MainWindowForm, StoredMaximisedStateComesBackWithItsSoundBeforeTheGreeting) {
+    settings("[Misc]\r\nShowSplash=0\r\n[Common]\r\nWindowSize=2\r\n");
+    MainFrm& window = start();
+    EXPECT_TRUE(window.isMaximized());
+    ASSERT_GE(sounds_.size(), 2u);
+    EXPECT_EQ(sounds_[0], "wopen");
+    EXPECT_EQ(sounds_[1], "godlike");
+}
+
+TEST_F(MainWindowForm, WindowStateBeyondTheThreeEndsTheProgram) {
+    settings("[Misc]\r\nShowSplash=0\r\n[Common]\r\nWindowSize=7\r\n");
+    world_.dialogs.answer(Answer::Ok);
+    forms::guarded(forms_, [this] { forms_.show<MainFrm>(); });
+    ASSERT_EQ(world_.dialogs.messages.size(), 1u);
+    EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '380':\n\nInvalid property value");
+    EXPECT_TRUE(forms_.ended());
+}
+
+TEST_F(MainWindowForm, RunCountAtItsLimitEndsTheProgramWithTheReport) {
+    settings("[Misc]\r\nTimesUsed=32767\r\n");
+    world_.dialogs.answer(Answer::Ok);
+    forms::guarded(forms_, [this] { forms_.show<MainFrm>(); });
+    ASSERT_EQ(world_.dialogs.messages.size(), 1u);
+    EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '6':\n\nOverflow");
+    EXPECT_TRUE(forms_.ended());
+    EXPECT_EQ(forms_.loaded<MainFrm>(), nullptr);
+}
+
+TEST_F(MainWindowForm, CloseButtonUnloadsEveryForm) {
+    MainFrm& window = start();
+    forms_.show<forms::mapext>();
+    sounds_.clear();
+    window.close();
+    EXPECT_EQ(sounds_, Names{"nasty"});
+    EXPECT_TRUE(forms_.empty());
+    EXPECT_FALSE(forms_.ended());
+    EXPECT_NE(savedSettings().find("VORNX="), std::string::npos);
+}
+
+TEST_F(MainWindowForm, ExitItemUnloadsAndThenEndsTheProgram) {
+    for (const char* item : {"mnuexit"}) {
+        start();
+        menuItem(item).trigger();
+        EXPECT_TRUE(forms_.empty());
+        EXPECT_TRUE(forms_.ended());
+        EXPECT_EQ(sounds_.back(), "nasty");
+    }
+}
+
+TEST_F(MainWindowForm, ExitOfThePopUpMenuDoesTheSame) {
+    start();
+    menuItem("mnurexit").trigger();
+    EXPECT_TRUE(forms_.empty());
+    EXPECT_TRUE(forms_.ended());
+}
+
+TEST_F(MainWindowForm, ExtractorOpensByItsKeyAndOnlyOnce) {
+    MainFrm& window = start();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    disk_.write("C:\\UnrealTournament\\Cache\\cache.ini", "[Cache]\r\n");
+    QTest::keyClick(&window, Qt::Key_M, Qt::ControlModifier);
+    forms::mapext* wizard = forms_.loaded<forms::mapext>();
+    ASSERT_NE(wizard, nullptr);
+    EXPECT_TRUE(wizard->isVisible());
+    EXPECT_FALSE(wizard->isModal());
+    menuItem("mnumapextractor").trigger();
+    EXPECT_EQ(forms_.loaded<forms::mapext>(), wizard);
+}
+
+TEST_F(MainWindowForm, ExtractorOfThePopUpMenuBlocksUntilItIsClosed) {
+    start();
+    bool modal = false;
+    const WhenItComes wizard(
+        [&] { return forms_.loaded<forms::mapext>() && forms_.get<forms::mapext>().isVisible(); },
+        [&] {
+            modal = forms_.get<forms::mapext>().isModal();
+            forms_.get<forms::mapext>().close();
+        });
+    menuItem("mnurmapext").trigger();
+    EXPECT_TRUE(modal);
+    EXPECT_EQ(forms_.loaded<forms::mapext>(), nullptr);
+}
+
+}  // namespace
+}  // namespace tessaro::test
