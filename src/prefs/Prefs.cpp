@@ -1,0 +1,189 @@
+#include "prefs/Prefs.h"
+
+#include <QApplication>
+#include <algorithm>
+
+#include "core/MainFrm.h"
+#include "forms/handler.h"
+#include "forms/placement.h"
+#include "forms/text.h"
+#include "shell/Skins.h"
+#include "ui_Prefs.h"
+
+namespace tessaro::forms {
+namespace {
+
+constexpr int mostDigitsOfDays = 3;
+
+/// 0 clear, 1 ticked, 2 greyed; what else a settings file may hold counts as off.
+void setCheckValue(QCheckBox& box, int value) {
+    if (value == 2) return box.setCheckState(Qt::PartiallyChecked);
+    box.setChecked(value == 1);
+}
+
+int checkValue(const QCheckBox& box) {
+    if (box.checkState() == Qt::PartiallyChecked) return 2;
+    return box.isChecked() ? 1 : 0;
+}
+
+StartMap selectedMap(const Ui::PrefsContent& ui) {
+    if (ui.Option6->isChecked()) return StartMap::Option6;
+    if (ui.Option7->isChecked()) return StartMap::Option7;
+    if (ui.Option8->isChecked()) return StartMap::Option8;
+    return StartMap::None;
+}
+
+}  // namespace
+
+Prefs::Prefs(Forms& forms)
+    : SkinnedForm(forms, {.caption = "Ovrin Tessaro", .title = "Preferences"}),
+      ui_(std::make_unique<Ui::PrefsContent>()),
+      rules_(forms.program(), *this) {
+    setUpContent(*ui_);
+    ui_->Text1->setFocus();
+    setupCommands();
+    setupDirtyMarks();
+    setupChecks();
+}
+
+Prefs::~Prefs() {
+    // A visible window loses the focus as it is destroyed, when this part of it is gone already.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+void Prefs::setupCommands() {
+    on(ui_->Command1, &QPushButton::clicked, forms(), [this] { rules_.browse(); });
+    on(ui_->Command2, &QPushButton::clicked, forms(), [this] { rules_.apply(); });
+    on(ui_->Command3, &QPushButton::clicked, forms(), [this] { rules_.clearCache(); });
+    on(ui_->Command5, &QPushButton::clicked, forms(), [this] { rules_.cancel(); });
+    on(ui_->Command6, &QPushButton::clicked, forms(), [this] { rules_.ok(); });
+}
+
+void Prefs::setupDirtyMarks() {
+    const auto changed = [this] { rules_.changed(); };
+    for (QLineEdit* box : {ui_->Text1, ui_->Text2, ui_->Text3})
+        connect(box, &QLineEdit::textChanged, this, changed);
+    for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{
+             ui_->Check3, ui_->Check4, ui_->Option1, ui_->Option2, ui_->Option3, ui_->Option4,
+             ui_->Option5, ui_->Option6, ui_->Option7, ui_->Option8})
+        connect(button, &QAbstractButton::clicked, this, changed);
+    connect(qApp, &QApplication::focusChanged, this, &Prefs::followFocus);
+}
+
+void Prefs::setupChecks() {
+    // A greyed box can be clicked out of that state, but not into it.
+    for (QCheckBox* box : {ui_->Check1, ui_->Check2, ui_->Check3, ui_->Check4})
+        connect(box, &QCheckBox::clicked, box, [box] { box->setTristate(false); });
+    connect(ui_->Text2, &QLineEdit::textEdited, this,
+            [this] { ui_->Text2->setMaxLength(mostDigitsOfDays); });
+}
+
+/// These two count as changed when the focus leaves them, not at the click, and not when it goes
+/// straight to the close box.
+void Prefs::followFocus(const QWidget* left, const QWidget* entered) {
+    if (left != ui_->Check1 && left != ui_->Check2) return;
+    if (isAncestorOf(entered) && entered != CommandX) rules_.changed();
+}
+
+void Prefs::Load() {
+    PrepareForm(*this);
+    rules_.open();
+}
+
+bool Prefs::QueryUnload() {
+    rules_.cancel();
+    return false;
+}
+
+std::string Prefs::folder() {
+    return fromQt(ui_->Text1->text());
+}
+
+void Prefs::showFolder(const std::string& folder) {
+    ui_->Text1->setText(toQt(folder));
+}
+
+void Prefs::selectFolder() {
+    ui_->Text1->selectAll();
+}
+
+void Prefs::showTimesUsed(int count) {
+    ui_->cntlbl->setText(QString::number(count));
+}
+
+PrefsControls Prefs::options() {
+    return {folder(),
+            checkValue(*ui_->Check1),
+            checkValue(*ui_->Check2),
+            checkValue(*ui_->Check3),
+            fromQt(ui_->Text5->text()),
+            fromQt(ui_->Text6->text()),
+            fromQt(ui_->Text7->text()),
+            ui_->Option3->isChecked(),
+            ui_->Option4->isChecked(),
+            ui_->Option5->isChecked()};
+}
+
+void Prefs::showOptions(const PrefsControls& options) {
+    showFolder(options.Text1);
+    setCheckValue(*ui_->Check1, options.Check1);
+    setCheckValue(*ui_->Check2, options.Check2);
+    setCheckValue(*ui_->Check3, options.Check3);
+    ui_->Text5->setText(toQt(options.Text5));
+    ui_->Text6->setText(toQt(options.Text6));
+    ui_->Text7->setText(toQt(options.Text7));
+    ui_->Option3->setChecked(options.Option3);
+    ui_->Option4->setChecked(options.Option4);
+    ui_->Option5->setChecked(options.Option5);
+}
+
+GameTweaks Prefs::tweaks() {
+    return {fromQt(ui_->Text3->text()), selectedMap(*ui_), fromQt(ui_->Text2->text()),
+            checkValue(*ui_->Check4)};
+}
+
+void Prefs::showTweaks(const GameTweaks& tweaks) {
+    ui_->Text3->setText(toQt(tweaks.Text3));
+    ui_->Option6->setChecked(tweaks.startMap == StartMap::Option6);
+    ui_->Option7->setChecked(tweaks.startMap == StartMap::Option7);
+    ui_->Option8->setChecked(tweaks.startMap == StartMap::Option8);
+    // Three characters can be typed. A longer number in the game's file stays whole, and is
+    // written back whole, until the user edits it.
+    const QString days = toQt(tweaks.Text2);
+    ui_->Text2->setMaxLength(std::max(mostDigitsOfDays, int(days.size())));
+    ui_->Text2->setText(days);
+    setCheckValue(*ui_->Check4, tweaks.Check4);
+}
+
+bool Prefs::okEnabled() {
+    return ui_->Command6->isEnabled();
+}
+
+void Prefs::enableSaving() {
+    ui_->Command6->setEnabled(true);
+    ui_->Command2->setEnabled(true);
+}
+
+void Prefs::applySkin() {
+    ApplySkin(forms(), *this);
+}
+
+void Prefs::hideDialog() {
+    hide();
+}
+
+void Prefs::showDialog() {
+    forms().show(*this);
+}
+
+void Prefs::closeDialog() {
+    forms().unload(*this);
+}
+
+void Prefs::endProgram() {
+    forms().unload(*this);
+    if (auto* mainWindow = forms().loaded<MainFrm>()) forms().unload(*mainWindow);
+    forms().end();
+}
+
+}  // namespace tessaro::forms

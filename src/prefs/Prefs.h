@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QCheckBox>
+#include <memory>
+
+#include "forms/skinnedform.h"
+#include "prefs/preferences.h"
+
+namespace Ui {
+class PrefsContent;
+}
+
+namespace tessaro::forms {
+
+/// The preferences dialog. Touching it loads it, hidden, and so reads the game's files; it stays
+/// loaded until it is closed.
+class Prefs : public SkinnedForm, private PrefsView {
+    Q_OBJECT
+
+  public:
+    explicit Prefs(Forms& forms);
+    ~Prefs() override;
+
+    void Load() override;
+    /// Closes by the rules of `Command5` or not at all.
+    bool QueryUnload() override;
+
+    /// The text of `Text1`.
+    std::string folder() override;
+
+  private:
+    void setupCommands();
+    void setupDirtyMarks();
+    void setupChecks();
+    void followFocus(const QWidget* left, const QWidget* entered);
+
+    void showFolder(const std::string& folder) override;
+    void selectFolder() override;
+    void showTimesUsed(int count) override;
+    PrefsControls options() override;
+    void showOptions(const PrefsControls& options) override;
+    GameTweaks tweaks() override;
+    void showTweaks(const GameTweaks& tweaks) override;
+    bool okEnabled() override;
+    void enableSaving() override;
+    void applySkin() override;
+    void hideDialog() override;
+    void showDialog() override;
+    void closeDialog() override;
+    void endProgram() override;
+
+    std::unique_ptr<Ui::PrefsContent> ui_;
+    Preferences rules_;
+};
+
+}  // namespace tessaro::forms
