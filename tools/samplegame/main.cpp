@@ -10,6 +10,7 @@
 #include "platform/paths.h"
 #include "platform/profile.h"
 #include "tools/samplegame/samplegame.h"
+#include "tools/ucc/programs.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ int main(int argc, char** argv) {
     try {
         const HostPath game = std::filesystem::absolute(argv[1]);
         tessaro::sample::buildSampleGame(game);
+        tessaro::ucc::installPrograms(game, tessaro::executablePath().parent_path());
         pointSettingsAt(game, std::filesystem::absolute(argv[2]));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "The sample game could not be made: %s\n", error.what());

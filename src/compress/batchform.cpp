@@ -1,0 +1,47 @@
+#include "compress/batchform.h"
+
+#include "forms/columns.h"
+#include "forms/handler.h"
+#include "forms/placement.h"
+#include "forms/text.h"
+#include "shell/Skins.h"
+
+namespace tessaro::forms {
+
+void BatchForm::setUpLists(std::initializer_list<List> lists) {
+    for (const List& list : lists) {
+        list.view->show(*list.items);
+        setColumnWidths(*list.view, {0, 14});
+    }
+}
+
+void BatchForm::setUpButtons(QPushButton& close, const std::function<void()>& run) {
+    on(Command2_, &QPushButton::clicked, forms(), run);
+    on(&close, &QPushButton::clicked, forms(), [this] { closePressed(); });
+}
+
+void BatchForm::load(const ListItems& dropped, ListItems& batch, const std::string& destination) {
+    CenterForm(*this);
+    PrepareForm(*this);
+    ApplySkin(forms(), *this);
+    Text1_->setText(toQt(destination));
+    loadBatch(forms().program(), dropped, batch);
+    forms().program().events.pump();
+    if (batch.count() > 0) ProgressBar1_->setMaximum(static_cast<int>(batch.count()));
+}
+
+void BatchForm::setRunning(bool running) {
+    running ? setCursor(Qt::WaitCursor) : unsetCursor();
+    setEnabled(!running);
+    if (!running) Command2_->setFocus();
+}
+
+void BatchForm::showExisting(int count) {
+    Text2_->setText(QString::number(count));
+}
+
+void BatchForm::showProgress(int position) {
+    ProgressBar1_->setValue(position);
+}
+
+}  // namespace tessaro::forms

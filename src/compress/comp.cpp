@@ -1,0 +1,31 @@
+#include "compress/comp.h"
+
+#include "compress/comp2.h"
+#include "core/MainFrm.h"
+#include "ui_comp.h"
+
+namespace tessaro::forms {
+
+comp::comp(Forms& forms)
+    : DropForm(
+          forms, PackageTool::Compressor,
+          {.caption = "UT File Compressor", .title = "File Compressor", .minimiseButton = true}),
+      ui_(std::make_unique<Ui::compContent>()) {
+    setUpList(*ui_);
+}
+
+comp::~comp() = default;
+
+/// The form steps aside for its batch, which needs its list and unloads it in the end.
+void comp::showBatch() {
+    hide();
+    forms().show<comp2>();
+}
+
+/// A minimised main window would come up when the tool closes.
+void comp::Unload() {
+    auto* main = forms().loaded<MainFrm>();
+    if (main != nullptr && main->isMinimized()) main->hide();
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,25 @@
+#include "compress/decomp.h"
+
+#include "compress/decomp2.h"
+#include "ui_decomp.h"
+
+namespace tessaro::forms {
+
+decomp::decomp(Forms& forms)
+    : DropForm(forms, PackageTool::Decompressor,
+               {.caption = "UT File Decompressor",
+                .title = "File Decompressor",
+                .minimiseButton = true}),
+      ui_(std::make_unique<Ui::decompContent>()) {
+    setUpList(*ui_);
+    addDragHandle(*ui_->Label2);
+}
+
+decomp::~decomp() = default;
+
+/// The form stays in sight behind its batch.
+void decomp::showBatch() {
+    forms().showModal<decomp2>();
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,34 @@
+#include "compress/dropform.h"
+
+#include "forms/columns.h"
+#include "compress/filedrop.h"
+#include "forms/handler.h"
+#include "forms/placement.h"
+#include "shell/Skins.h"
+
+namespace tessaro::forms {
+
+DropForm::DropForm(Forms& forms, PackageTool tool, const FrameOptions& options)
+    : SkinnedForm(forms, options), tool_(tool), dropped_(makeDropList()) {}
+
+void DropForm::setUpList(ListView& list, QPushButton& remove, QPushButton& start) {
+    list.show(dropped_);
+    setColumnWidths(list, {22, 0, 14});
+    new FileDrop(forms(), list, [this](const std::vector<std::string>& paths) {
+        dropFiles(forms().program(), tool_, dropped_, paths);
+    });
+    on(&remove, &QPushButton::clicked, forms(), [this] { removeSelected(dropped_); });
+    on(&start, &QPushButton::clicked, forms(), [this] { startBatch(); });
+}
+
+void DropForm::Load() {
+    CenterForm(*this);
+    PrepareForm(*this);
+    ApplySkin(forms(), *this);
+}
+
+void DropForm::startBatch() {
+    if (askDestination(forms().program(), tool_, dropped_)) showBatch();
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "platform/encoding.h"
+
+namespace tessaro::ucc {
+
+/// What the program prints, line by line, as it happens.
+class Console {
+  public:
+    /// The game's tool writes UTF-16LE into a file or a pipe on some systems.
+    explicit Console(Encoding encoding) : encoding_(encoding) {}
+    /// `line` is UTF-8, as names of files are.
+    void print(const std::string& line) const;
+
+  private:
+    Encoding encoding_;
+};
+
+}  // namespace tessaro::ucc

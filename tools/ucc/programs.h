@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+
+namespace tessaro::ucc {
+
+/// Puts the stand-ins for the game's two programs into its System folder, as UCC.exe and
+/// UnrealTournament.exe, over what is there. `programs` is the folder with tessaro-ucc and
+/// tessaro-ut. Raises std::filesystem::filesystem_error.
+void installPrograms(const std::filesystem::path& game, const std::filesystem::path& programs);
+
+}  // namespace tessaro::ucc
