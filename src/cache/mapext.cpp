@@ -53,7 +53,8 @@ void mapext::setupStepTwo() {
     on(ui_->Option2, &QRadioButton::clicked, forms(), [this] { chooseNewFolder(); });
     on(ui_->Command10, &QPushButton::clicked, forms(), [this] { browseDestination(); });
     on(ui_->Command1, &QPushButton::clicked, forms(), [this] { createFolder(); });
-    on(ui_->Command6, &QPushButton::clicked, forms(), [this] { showStep(*ui_->Frame3); });
+    on(ui_->Command6, &QPushButton::clicked, forms(),
+       [this] { showStep(*ui_->Frame3, *ui_->next); });
     on(ui_->Command5, &QPushButton::clicked, forms(), [this] { toStepThree(); });
 }
 
@@ -63,13 +64,15 @@ void mapext::setupStepThree() {
     on(ui_->ListView1, &ListView::columnClicked, forms(), [this](int column) { sortBy(column); });
     on(ui_->Command8, &QPushButton::clicked, forms(), [this] { extract(); });
     on(ui_->Command3, &QPushButton::clicked, forms(), [this] { extraction_.StopExtraction(); });
-    on(ui_->Command9, &QPushButton::clicked, forms(), [this] { showStep(*ui_->Frame4); });
+    on(ui_->Command9, &QPushButton::clicked, forms(),
+       [this] { showStep(*ui_->Frame4, *ui_->Command5); });
 }
 
 /// Enter confirms a typed folder while the box has the focus, and leads on everywhere else.
 void mapext::setupDefaultButtons() {
+    onward_ = ui_->next;
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        (now == ui_->Text1 ? ui_->Command4 : ui_->next)->setDefault(true);
+        (now == ui_->Text1 ? ui_->Command4 : onward_)->setDefault(true);
     });
 }
 
@@ -91,8 +94,11 @@ void mapext::Unload() {
     extraction_.release();
 }
 
-void mapext::showStep(QWidget& frame) {
+void mapext::showStep(QWidget& frame, QPushButton& onward) {
     ui_->steps->setCurrentWidget(&frame);
+    onward_ = &onward;
+    onward.setDefault(true);
+    onward.setFocus();
 }
 
 void mapext::changeDrive() {
@@ -126,7 +132,7 @@ void mapext::CheckCacheDir() {
 
 void mapext::toStepTwo() {
     rememberCacheFolder(program(), ui_->Dir1->path());
-    showStep(*ui_->Frame4);
+    showStep(*ui_->Frame4, *ui_->Command5);
 }
 
 void mapext::chooseNewFolder() {
@@ -157,7 +163,7 @@ void mapext::toStepThree() {
         ui_->Option1->isChecked() ? program().gamePaths.UTPath : fromQt(ui_->Text2->text());
     extraction_.entry.mypath = root + "\\";
     ui_->Text6->setText(toQt(extraction_.entry.mypath));
-    showStep(*ui_->Frame5);
+    showStep(*ui_->Frame5, *ui_->Command8);
 }
 
 void mapext::extract() {

@@ -30,7 +30,7 @@ class mapext : public SkinnedForm, private ExtractionObserver {
     void setupStepThree();
     void setupDefaultButtons();
 
-    void showStep(QWidget& frame);
+    void showStep(QWidget& frame, QPushButton& onward);
     void changeDrive();
     void changeFolder();
     void goToTypedFolder();
@@ -55,6 +55,7 @@ class mapext : public SkinnedForm, private ExtractionObserver {
 
     std::unique_ptr<Ui::mapextContent> ui_;
     Extraction extraction_;
+    QPushButton* onward_ = nullptr;  // leads on from the step that is shown
 };
 
 }  // namespace tessaro::forms

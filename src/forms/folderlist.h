@@ -31,6 +31,8 @@ class FolderList : public QTreeWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    /// None: the folders of the chain are always open.
+    void drawBranches(QPainter*, const QRect&, const QModelIndex&) const override {}
 
   private:
     void openByUser(const QTreeWidgetItem* item);

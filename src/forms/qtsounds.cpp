@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QMediaDevices>
 #include <QSoundEffect>
+#include <QTimer>
 #include <QUrl>
 
 #include "forms/resources.h"
@@ -13,6 +14,10 @@
 
 namespace tessaro::forms {
 namespace {
+
+// Time for a window that has just been shown to paint itself: its screen's answer comes through the
+// same event loop.
+constexpr int untilPaintedMilliseconds = 50;
 
 /// Name of the resource file; the names of sounds ignore case. Raises 326.
 QString soundFile(std::string_view name) {
@@ -42,9 +47,14 @@ int QtSounds::start(std::string_view name) {
     next_ = soundFile(name);
     if (!posted) {
         QMetaObject::invokeMethod(
-            &later_, [this] { playNext(); }, Qt::QueuedConnection);
+            &later_, [this] { playSoon(); }, Qt::QueuedConnection);
     }
     return silent_ ? 0 : 1;
+}
+
+void QtSounds::playSoon() {
+    const int wait = std::exchange(loaded_, true) ? 0 : untilPaintedMilliseconds;
+    QTimer::singleShot(wait, &later_, [this] { playNext(); });
 }
 
 void QtSounds::playNext() {

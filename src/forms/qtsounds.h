@@ -12,9 +12,9 @@ namespace tessaro::forms {
 
 /// Plays the program's sounds from its resources. Without a sound device it is silent.
 ///
-/// The player is made from the event loop after the first `start` returned: loading the system's
-/// sound library takes long enough to hold up the first paint. Nothing may wait for a sound's end,
-/// which never comes where there is no device.
+/// The player is made from the event loop, a moment after the first `start` returned: loading the
+/// system's sound library takes long enough to hold up the first paint. Nothing may wait for a
+/// sound's end, which never comes where there is no device.
 class QtSounds : public Sounds {
   public:
     QtSounds();
@@ -25,10 +25,12 @@ class QtSounds : public Sounds {
     int start(std::string_view name) override;
 
   private:
+    void playSoon();
     void playNext();
 
     std::unique_ptr<QSoundEffect> effect_;
-    QString next_;  // resource file of the sound to be started
+    QString next_;         // resource file of the sound to be started
+    bool loaded_ = false;  // the sound library, or its loading is under way
     bool silent_ = false;
     QObject later_;
 };

@@ -48,6 +48,10 @@ QWidget* lastInTabOrder(QWidget* container) {
     return last;
 }
 
+bool takesTab(const QWidget& widget) {
+    return widget.isEnabled() && widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) != 0;
+}
+
 }  // namespace
 
 SkinnedForm::SkinnedForm(Forms& forms, const FrameOptions& options)
@@ -151,6 +155,15 @@ void SkinnedForm::showEvent(QShowEvent* event) {
     FormWindow<QDialog>::showEvent(event);
     fitFrame();
     setGeometry(fittedInto(screen()->availableGeometry(), geometry()));
+    if (focusWidget() == nullptr) focusFirstControl();
+}
+
+/// Left alone, Qt would give the focus to the close button, which was made first.
+void SkinnedForm::focusFirstControl() {
+    QWidget* widget = content_->nextInFocusChain();
+    while (widget != content_ && !(content_->isAncestorOf(widget) && takesTab(*widget)))
+        widget = widget->nextInFocusChain();
+    if (widget != content_) widget->setFocus();
 }
 
 /// The band and its buttons grow with the font.

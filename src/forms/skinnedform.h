@@ -71,6 +71,7 @@ class SkinnedForm : public FormWindow<QDialog> {
     void completeContent();
     void fitFrame();
     void placeTitle();
+    void focusFirstControl();
 
     QWidget* strut_;  // keeps room for the plate, beside the buttons
     QWidget* content_;

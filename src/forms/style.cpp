@@ -38,7 +38,7 @@ const QColor paleFieldLetters(214, 214, 214);
 
 QIcon programIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256})
+    for (const int size : {16, 22, 24, 32, 48, 64})
         icon.addFile(QStringLiteral(":/icons/tessaro-%1.png").arg(size), {size, size});
     return icon;
 }

@@ -72,6 +72,12 @@ class SkinnedForms : public test::FormsTest {
     }
 };
 
+TEST_F(SkinnedForms, OpensWithTheFocusOnItsFirstControl) {
+    Tool& form = shown();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_EQ(form.focusWidget(), form.ui.Text1);
+}
+
 TEST_F(SkinnedForms, TheFramesControlsBearTheNamesThatSkinsLookFor) {
     Tool& form = shown();
     for (const char* name :
