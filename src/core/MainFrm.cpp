@@ -99,10 +99,17 @@ void MainFrm::exitProgram() {
     forms().end();
 }
 
+bool MainFrm::event(QEvent* event) {
+    // Menus have no status texts; their empty ones would wipe ours.
+    return event->type() == QEvent::StatusTip || FormWindow<QMainWindow>::event(event);
+}
+
 void MainFrm::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         ui_->StatusBar1->showMessage(QStringLiteral("Tessaro"));
+        placeBackground();  // the desktop has framed the window by now
+    }
     if (event->type() == QEvent::WindowStateChange) {
         stateIsNew_ = true;
         followSize();

@@ -35,6 +35,7 @@ class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
     clsINI INI;
 
   protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
