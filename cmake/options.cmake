@@ -6,5 +6,6 @@ target_compile_options(tessaro_options INTERFACE -Wall -Wextra -Wpedantic -Wconv
 if(TESSARO_SANITIZE)
     target_compile_options(tessaro_options INTERFACE
         -fsanitize=${TESSARO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_definitions(tessaro_options INTERFACE _GLIBCXX_ASSERTIONS)
     target_link_options(tessaro_options INTERFACE -fsanitize=${TESSARO_SANITIZE})
 endif()

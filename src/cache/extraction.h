@@ -46,6 +46,8 @@ class Extraction {
     void run(const std::string& cacheFolder);
     /// What "&Stop" does. The walk ends after the file under work.
     void StopExtraction();
+    /// What a click on a column's head does; columns count from 1.
+    void sortBy(int column);
     /// Closes the index; failures are ignored.
     void release();
 

@@ -61,7 +61,8 @@ void mapext::setupStepTwo() {
 void mapext::setupStepThree() {
     ui_->ListView1->show(extraction_.ListView1);
     setColumnWidths(*ui_->ListView1, {0, 16, 12});
-    on(ui_->ListView1, &ListView::columnClicked, forms(), [this](int column) { sortBy(column); });
+    on(ui_->ListView1, &ListView::columnClicked, forms(),
+       [this](int column) { extraction_.sortBy(column); });
     on(ui_->Command8, &QPushButton::clicked, forms(), [this] { extract(); });
     on(ui_->Command3, &QPushButton::clicked, forms(), [this] { extraction_.StopExtraction(); });
     on(ui_->Command9, &QPushButton::clicked, forms(),
@@ -159,23 +160,14 @@ void mapext::createFolder() {
 }
 
 void mapext::toStepThree() {
-    const std::string root =
-        ui_->Option1->isChecked() ? program().gamePaths.UTPath : fromQt(ui_->Text2->text());
-    extraction_.entry.mypath = root + "\\";
+    extraction_.entry.mypath =
+        destinationRoot(program(), ui_->Option1->isChecked(), fromQt(ui_->Text2->text()));
     ui_->Text6->setText(toQt(extraction_.entry.mypath));
     showStep(*ui_->Frame5, *ui_->Command8);
 }
 
 void mapext::extract() {
     extraction_.run(ui_->Dir1->path());
-}
-
-/// The order never returns to ascending, and the test compares a column counted from 0 with one
-/// counted from 1.
-void mapext::sortBy(int column) {
-    ListItems& rows = extraction_.ListView1;
-    if (rows.sortKey() == column && rows.sortOrder() == 0) rows.setSortOrder(1);
-    rows.setSortKey(column - 1);
 }
 
 void mapext::show(ExtractionBox box, const std::string& text) {

@@ -42,7 +42,6 @@ class mapext : public SkinnedForm, private ExtractionObserver {
     void createFolder();
     void toStepThree();
     void extract();
-    void sortBy(int column);
 
     void show(ExtractionBox box, const std::string& text) override;
     void setRunning(bool running) override;

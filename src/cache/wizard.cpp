@@ -33,9 +33,14 @@ std::string offeredDestination(Program& program) {
     return DirExists(program, lastUsed) == Yes ? lastUsed : program.gamePaths.UTPath;
 }
 
+std::string destinationRoot(const Program& program, bool intoTheGame,
+                            const std::string& destinationText) {
+    return (intoTheGame ? program.gamePaths.UTPath : destinationText) + "\\";
+}
+
 std::string createDestination(Program& program, const std::string& folder) {
     attempt([&] { program.paths.changeFolder(folder); });
-    const std::string answer =
+    std::string answer =
         program.dialogs.input("Enter New Folder Name", "Create Folder", folder + "\\UTMaps");
     if (answer.empty()) return folder;
     if (DirExists(program, ".\\" + answer) == Yes) {

@@ -25,6 +25,11 @@ void rememberCacheFolder(Program& program, const std::string& chosenFolder);
 /// The folder offered for a separate destination: the last one used if it still exists.
 std::string offeredDestination(Program& program);
 
+/// Where an extraction goes, with a backslash at the end: the game's folder, or the one named in
+/// the destination box.
+std::string destinationRoot(const Program& program, bool intoTheGame,
+                            const std::string& destinationText);
+
 /// The new-folder dialogue below `folder`. Gives the text that the destination box then shows: the
 /// answer as it was typed, or `folder` if nothing was made. Any failure is passed over.
 std::string createDestination(Program& program, const std::string& folder);

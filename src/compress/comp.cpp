@@ -7,9 +7,8 @@
 namespace tessaro::forms {
 
 comp::comp(Forms& forms)
-    : DropForm(
-          forms, PackageTool::Compressor,
-          {.caption = "UT File Compressor", .title = "File Compressor", .minimiseButton = true}),
+    : DropForm(forms, PackageTool::Compressor,
+               {.caption = "UT File Compressor", .title = "File Compressor", .secondButton = true}),
       ui_(std::make_unique<Ui::compContent>()) {
     setUpList(*ui_);
 }

@@ -6,10 +6,9 @@
 namespace tessaro::forms {
 
 decomp::decomp(Forms& forms)
-    : DropForm(forms, PackageTool::Decompressor,
-               {.caption = "UT File Decompressor",
-                .title = "File Decompressor",
-                .minimiseButton = true}),
+    : DropForm(
+          forms, PackageTool::Decompressor,
+          {.caption = "UT File Decompressor", .title = "File Decompressor", .secondButton = true}),
       ui_(std::make_unique<Ui::decompContent>()) {
     setUpList(*ui_);
     addDragHandle(*ui_->Label2);

@@ -1,7 +1,7 @@
 #include "compress/dropform.h"
 
-#include "forms/columns.h"
 #include "compress/filedrop.h"
+#include "forms/columns.h"
 #include "forms/handler.h"
 #include "forms/placement.h"
 #include "shell/Skins.h"

@@ -2,6 +2,7 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QSysInfo>
 #include <QUrl>
 #include <algorithm>
 
@@ -16,9 +17,17 @@ bool holdsFiles(const QMimeData& data) {
     return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
 }
 
+/// X11's drags name the machine in the address, and so do some file managers. Qt would make the
+/// name of a share from it.
+QUrl withoutThisMachine(QUrl url) {
+    for (const QString& machine : {QStringLiteral("localhost"), QSysInfo::machineHostName()})
+        if (url.host().compare(machine, Qt::CaseInsensitive) == 0) url.setHost({});
+    return url;
+}
+
 /// Old names may hold bytes that are no UTF-8, which only the address itself still has.
 HostPath hostPathOf(const QUrl& url) {
-    const QString local = url.toLocalFile();
+    const QString local = withoutThisMachine(url).toLocalFile();
     if (!local.contains(QChar::ReplacementCharacter)) return hostPathFromQt(local);
     const QByteArray bytes =
         QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());

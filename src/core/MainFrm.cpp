@@ -1,7 +1,6 @@
 #include "core/MainFrm.h"
 
 #include <QEvent>
-#include <QPixmap>
 #include <utility>
 
 #include "cache/mapext.h"
@@ -10,6 +9,7 @@
 #include "core/splash.h"
 #include "forms/forms.h"
 #include "forms/handler.h"
+#include "forms/pictures.h"
 #include "forms/placement.h"
 #include "forms/twips.h"
 #include "platform/runtimeerror.h"
@@ -28,7 +28,7 @@ MainFrm::MainFrm(Forms& forms)
     : FormWindow(forms), INI(forms.program().makeINI()), ui_(std::make_unique<Ui::MainFrm>()) {
     ui_->setupUi(this);
     ui_->client->setPalette(QPalette(groundOfPicture));
-    ui_->Image1->setPixmap(QPixmap(QStringLiteral(":/pictures/main.png")));
+    ui_->Image1->setPixmap(programPicture(QStringLiteral(":/pictures/main.png")));
     setMinimumSize(pixels(smallestMainWindow.width), pixels(smallestMainWindow.height));
     setupMenus();
 }
@@ -56,6 +56,7 @@ void MainFrm::Load() {
 }
 
 void MainFrm::Unload() {
+    leaving_ = true;
     unloadMainWindow(forms().program(), *this);
 }
 
@@ -69,6 +70,8 @@ void MainFrm::setState(int state) {
     if (state < 0 || state > windowstate::Maximised)
         throw RunTimeError(errors::InvalidPropertyValue);
     setWindowState(states[state]);
+    // A failure in the Resize that has just run was reported there; what called us must not go on.
+    forms().throwIfEnded();
 }
 
 int MainFrm::state() {
@@ -95,6 +98,9 @@ void MainFrm::unloadAllForms() {
 }
 
 void MainFrm::exitProgram() {
+    // Pressed again during the farewell: to end here would lose the settings that are yet to be
+    // saved.
+    if (leaving_) return;
     forms().unload(*this);
     forms().end();
 }

@@ -46,7 +46,8 @@ class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
     void exitProgram();
 
     std::unique_ptr<Ui::MainFrm> ui_;
-    bool stateIsNew_ = false;
+    bool leaving_ = false;     // Unload runs
+    bool stateIsNew_ = false;  // until the Resize that comes with it
 };
 
 }  // namespace tessaro::forms

@@ -130,7 +130,7 @@ std::string clsINI::getKeyValue(std::string_view key, std::string_view defaultVa
                                 std::string_view section, std::string_view INIFileLoc) {
     const std::string file = fileOr(INIFileLoc);
     const std::string place = sectionOr(section);
-    const std::string fallback(defaultValue.empty() ? notSet : defaultValue);
+    std::string fallback(defaultValue.empty() ? notSet : defaultValue);
     ensureIniFile();
     // Asked with an empty default, so that a key that is absent and one without a value look the
     // same: both get the default written into the file.

@@ -9,6 +9,8 @@
 
 namespace tessaro {
 
+/// What the program knows of the system. `success` is for the caller to set, from what
+/// `GetOSVersion` gave.
 struct OSVersionInfo {
     std::int32_t code = 0;
     std::string name;

@@ -5,6 +5,7 @@
 #include "core/startup.h"
 #include "forms/forms.h"
 #include "forms/handler.h"
+#include "forms/pictures.h"
 #include "forms/text.h"
 #include "ui_splash.h"
 
@@ -19,7 +20,7 @@ splash::splash(Forms& forms)
     : FormWindow(forms),
       INI(forms.program().makeINI()),
       ui_(std::make_unique<Ui::splash>()),
-      picture_(QStringLiteral(":/pictures/splash.png")) {
+      picture_(programPicture(QStringLiteral(":/pictures/splash.png"))) {
     ui_->setupUi(this);
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     setFixedSize(picture_.size());

@@ -50,9 +50,9 @@ class Drag : public QObject {
 
 }  // namespace
 
-void dragWindow(QWidget& window) {
-    delete window.findChild<QObject*>(QStringLiteral("drag"), Qt::FindDirectChildrenOnly);
-    new Drag(window);
+void DragForm(QWidget& form) {
+    delete form.findChild<QObject*>(QStringLiteral("drag"), Qt::FindDirectChildrenOnly);
+    new Drag(form);
 }
 
 }  // namespace tessaro::forms

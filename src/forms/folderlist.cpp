@@ -72,7 +72,8 @@ void FolderList::use(Files& files) {
 void FolderList::setPath(std::string_view folder) {
     const std::string full = files_->paths().absolute(folder);
     const HostPath place = files_->paths().toHost(full);
-    const auto status = files_->host().status(place);
+    // Asked from inside: a folder that may not be entered raises here, before anything changes.
+    const auto status = files_->host().status(place / ".");
     if (!status || !status->folder) throw RunTimeError(errors::PathNotFound, full);
     const std::string before = std::exchange(path_, asOnDisk(full, place));
     fill();
@@ -83,10 +84,7 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         openByUser(currentItem());
     } else if (event->key() == Qt::Key_Backspace) {
-        // The last item of the chain is the open folder, the one before is the folder above.
-        const std::vector<std::string> parts = partsOf(path_);
-        if (parts.size() < 2) return;
-        attempt([&] { setPath(joined(path_, "..")); });
+        attempt([&] { setPath(joined(path_, "..")); });  // at a root, the root once more
     } else {
         QTreeWidget::keyPressEvent(event);
     }

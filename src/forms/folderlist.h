@@ -22,7 +22,7 @@ class FolderList : public QTreeWidget {
     /// The open folder in the game's form, names as they are on the disk.
     const std::string& path() const { return path_; }
     /// Opens a folder, and reads it anew if it is open already. Raises 76 if there is no such
-    /// folder, 68 if there is no such drive.
+    /// folder, 70 if it may not be entered, 68 if there is no such drive.
     void setPath(std::string_view folder);
 
   Q_SIGNALS:

@@ -11,9 +11,12 @@ namespace {
 
 constexpr int idleMilliseconds = 5;
 
-/// Swallows what the user does with mouse, keys and window frames.
+/// Swallows what the user does with mouse, keys and window frames, and takes the end of the
+/// desktop's session for an end of the program: asked to close, the windows would refuse it.
 class InputFilter : public QObject {
   public:
+    explicit InputFilter(ProgramEnd& programEnd) : end_(programEnd) {}
+
     bool eventFilter(QObject*, QEvent* event) override {
         switch (event->type()) {
             case QEvent::MouseButtonPress:
@@ -24,18 +27,25 @@ class InputFilter : public QObject {
             case QEvent::KeyRelease:
             case QEvent::Shortcut:
             case QEvent::ShortcutOverride:
+            case QEvent::InputMethod:
+            case QEvent::ContextMenu:
             case QEvent::DragEnter:
             case QEvent::Drop:
                 return true;
             case QEvent::Close:
-                // The frame's close button; the end of the desktop's session has its own way.
                 if (!event->spontaneous()) return false;
                 event->ignore();
+                return true;
+            case QEvent::Quit:
+                end_.end();
                 return true;
             default:
                 return false;
         }
     }
+
+  private:
+    ProgramEnd& end_;
 };
 
 }  // namespace
@@ -51,7 +61,7 @@ void QtEvents::pump() {
 }
 
 void QtEvents::repaint() {
-    InputFilter filter;
+    InputFilter filter(end_);
     QCoreApplication::instance()->installEventFilter(&filter);
     QEventLoop().processEvents(QEventLoop::AllEvents);
     end_.throwIfEnded();

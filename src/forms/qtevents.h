@@ -8,7 +8,7 @@ namespace tessaro::forms {
 /// The events and the clock of the running program.
 class QtEvents : public Events {
   public:
-    explicit QtEvents(const ProgramEnd& programEnd) : end_(programEnd) {}
+    explicit QtEvents(ProgramEnd& programEnd) : end_(programEnd) {}
 
     /// Waits up to a few milliseconds if nothing is pending: the program's waits call this in a
     /// loop, which would otherwise keep a processor busy.
@@ -16,11 +16,12 @@ class QtEvents : public Events {
     double secondsSinceMidnight() override;
 
     /// Lets the windows paint while a child process runs. What the user presses meanwhile is lost
-    /// on purpose: it was meant for a window that could not answer.
+    /// on purpose: it was meant for a window that could not answer. The end of the desktop's
+    /// session ends the program outright.
     void repaint();
 
   private:
-    const ProgramEnd& end_;
+    ProgramEnd& end_;
 };
 
 }  // namespace tessaro::forms

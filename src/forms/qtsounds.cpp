@@ -3,6 +3,7 @@
 #include <QAudioDevice>
 #include <QFile>
 #include <QMediaDevices>
+#include <QResource>
 #include <QSoundEffect>
 #include <QTimer>
 #include <QUrl>
@@ -36,10 +37,7 @@ QtSounds::QtSounds() {
 QtSounds::~QtSounds() = default;
 
 std::string QtSounds::resource(std::string_view name) {
-    QFile file(QLatin1Char(':') + soundFile(name));
-    if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(errors::ResourceNotFound, std::string(name));
-    return file.readAll().toStdString();
+    return QResource(soundFile(name)).uncompressedData().toStdString();
 }
 
 int QtSounds::start(std::string_view name) {

@@ -34,7 +34,6 @@ QPushButton* makeButton(QWidget* parent, const char* name, const char* caption, 
     auto* button = new QPushButton(QLatin1String(caption), parent);
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(QLatin1String(help));
-    button->setToolTip(QLatin1String(help));
     button->setAutoDefault(false);
     return button;
 }
@@ -59,7 +58,7 @@ SkinnedForm::SkinnedForm(Forms& forms, const FrameOptions& options)
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setWindowTitle(toQt(options.caption));
     makeFrame(options);
-    makeButtons(options.minimiseButton);
+    makeButtons(options.secondButton);
     layOut();
     if (options.dragBy != DragBy::Nothing) addDragHandle(*timg);
     if (options.dragBy == DragBy::PlateAndTitle) addDragHandle(*Title);
@@ -79,10 +78,11 @@ void SkinnedForm::makeFrame(const FrameOptions& options) {
     rightimg->setFixedWidth(sideWidth);
 }
 
-void SkinnedForm::makeButtons(bool minimise) {
+void SkinnedForm::makeButtons(bool secondButton) {
     CommandX = makeButton(this, "CommandX", "X", "Close");
-    if (!minimise) return;
-    CommandQ = makeButton(this, "CommandQ", "_", "Minimise");
+    CommandX->setToolTip(CommandX->accessibleName());
+    if (!secondButton) return;
+    CommandQ = makeButton(this, "CommandQ", "", "No function");
 }
 
 void SkinnedForm::layOut() {
@@ -127,7 +127,7 @@ void SkinnedForm::addDragHandle(QWidget& handle) {
 }
 
 bool SkinnedForm::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) dragWindow(*this);
+    if (event->type() == QEvent::MouseButtonPress) DragForm(*this);
     return FormWindow<QDialog>::eventFilter(watched, event);
 }
 

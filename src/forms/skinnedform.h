@@ -14,9 +14,9 @@ enum class DragBy { PlateAndTitle, Plate, Nothing };
 
 /// How a form's frame differs from that of the others.
 struct FrameOptions {
-    std::string caption;  ///< the window's name, seen in the task bar
-    std::string title;    ///< text of `Title`
-    bool minimiseButton = false;
+    std::string caption;        ///< the window's name, seen in the task bar
+    std::string title;          ///< text of `Title`
+    bool secondButton = false;  ///< `CommandQ`, blank: a form that uses it says what it does
     DragBy dragBy = DragBy::PlateAndTitle;
 };
 
@@ -66,7 +66,7 @@ class SkinnedForm : public FormWindow<QDialog> {
 
   private:
     void makeFrame(const FrameOptions& options);
-    void makeButtons(bool minimise);
+    void makeButtons(bool secondButton);
     void layOut();
     void completeContent();
     void fitFrame();

@@ -6,10 +6,10 @@
 #include <QIcon>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QStyleFactory>
 #include <QTextEdit>
 
-#include "forms/resources.h"
+#include "forms/pictures.h"
+#include "forms/programstyle.h"
 
 namespace tessaro::forms {
 namespace {
@@ -36,10 +36,12 @@ const QColor fieldGround(64, 64, 64);
 const QColor fieldLetters(255, 255, 255);
 const QColor paleFieldLetters(214, 214, 214);
 
+// The sizes that window managers show. Each one more would have to be unpacked and sent to the
+// screen before the first window is there; larger ones are shown by launchers only.
 QIcon programIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64})
-        icon.addFile(QStringLiteral(":/icons/tessaro-%1.png").arg(size), {size, size});
+    for (const int size : {16, 32, 48})
+        icon.addPixmap(programPicture(QStringLiteral(":/icons/tessaro-%1.png").arg(size)));
     return icon;
 }
 
@@ -81,13 +83,12 @@ QPalette programPalette() {
 }
 
 void applyProgramStyle(QApplication& application) {
-    loadResources();
     QCoreApplication::setApplicationName(QStringLiteral("tessaro"));
     // No display name: Qt would add it to the title of every box.
     QGuiApplication::setDesktopFileName(QStringLiteral("tessaro"));
     // The last form to be unloaded ends the program, not the last window to be hidden.
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(programPalette());
     application.setWindowIcon(programIcon());
 }

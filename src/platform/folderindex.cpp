@@ -118,7 +118,7 @@ void FolderIndex::read(const HostPath& folder, FolderStamp stamp, Names& names) 
     std::vector<std::string> listing;
     names.listed = attempt([&] { listing = host_.list(folder); });
     for (std::string& each : listing) {
-        if (each.find('\\') != std::string::npos) each = gameName(each);
+        if (needsStandIn(each)) each = gameName(each);
     }
     const bool big = listing.size() >= bigFolder;
     names.table.fill(std::move(listing));

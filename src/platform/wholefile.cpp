@@ -24,7 +24,7 @@ std::string temporaryName() {
 
 // The file behind a link, once it is clear that it may be replaced.
 HostPath replaceable(Host& host, const HostPath& file) {
-    const HostPath target = host.target(file);
+    HostPath target = host.target(file);
     if (host.status(target)) {
         if (!host.writable(target)) throw RunTimeError(errors::PathFileAccess, target.string());
         return target;

@@ -4,7 +4,6 @@
 #include <QPushButton>
 #include <vector>
 
-#include "forms/drag.h"
 #include "forms/frame.h"
 #include "forms/style.h"
 #include "forms/twips.h"
@@ -106,10 +105,6 @@ void ApplySkin(Forms& forms, QWidget& form) {
             if (equalsNumber(chosen, skin.number)) dress(form, skin, forms.get<Skinz>());
         });
     }
-}
-
-void DragForm(QWidget& form) {
-    dragWindow(form);
 }
 
 }  // namespace tessaro::forms

@@ -1,5 +1,5 @@
 #pragma once
-// Skins: dresses a form in the skin that the settings name, and moves borderless forms.
+// Skins: dresses a form in the skin that the settings name.
 
 #include <QWidget>
 
@@ -11,9 +11,5 @@ namespace tessaro::forms {
 /// skin. Controls are found by name; one that the form lacks is passed over. Never raises; a skin
 /// that is not there leaves the form as it is.
 void ApplySkin(Forms& forms, QWidget& form);
-
-/// Called when any mouse button goes down on a handle of a borderless form: the form follows the
-/// mouse.
-void DragForm(QWidget& form);
 
 }  // namespace tessaro::forms

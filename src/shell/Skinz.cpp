@@ -2,14 +2,18 @@
 
 #include <QLabel>
 
-#include "forms/resources.h"
+#include "forms/pictures.h"
 #include "ui_Skinz.h"
 
 namespace tessaro::forms {
 
 Skinz::Skinz(Forms& forms) : FormWindow<QDialog>(forms) {
-    loadResources();
     Ui::Skinz().setupUi(this);
+    // Each control bears the name of its picture.
+    for (auto* label : findChildren<QLabel*>()) {
+        const QString name = label->objectName().toLower();
+        label->setPixmap(programPicture(QStringLiteral(":/pictures/%1.png").arg(name)));
+    }
 }
 
 QPixmap Skinz::picture(const char* name) const {

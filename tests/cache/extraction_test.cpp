@@ -120,6 +120,39 @@ TEST_F(ExtractionRun, SecondRunClearsTheListButKeepsTheLastKind) {
     EXPECT_EQ(rows(), (Texts{"a.u|Map File|1KB", "c.unr|System File|1KB"}));
 }
 
+TEST_F(ExtractionRun, SecondRunLeavesTheCountsUntilTheyAreNextWritten) {
+    indexOf({"a.u", "b.u"});
+    index(game.world.read(cache + "\\cache.ini") + lineOf(7, "gone.u"));
+    run();
+    watcher.shown.clear();
+    game.events.onPump = [&] {
+        const bool inALine = watcher.shown.contains(ExtractionBox::CurrentFile);
+        EXPECT_EQ(watcher.shown.contains(ExtractionBox::Extracted), inALine);
+        EXPECT_FALSE(watcher.shown.contains(ExtractionBox::Failed));  // the last line's
+    };
+    run();
+    EXPECT_EQ(shown(ExtractionBox::Extracted), "0");
+    EXPECT_EQ(shown(ExtractionBox::Failed), "1");
+    EXPECT_EQ(shown(ExtractionBox::Existing), "2");
+}
+
+TEST_F(ExtractionRun, ColumnClicksSortAndNeverTurnBack) {
+    indexOf({"b.u", "a.u"});
+    run();
+    const ListItems& rows = extraction.ListView1;
+    const auto click = [&](int column) {
+        extraction.sortBy(column);
+        return std::pair{rows.sortKey(), rows.sortOrder()};
+    };
+    EXPECT_EQ(click(1), (std::pair{0, 0}));
+    EXPECT_EQ(rows.item(1).text, "a.u");
+    EXPECT_EQ(click(1), (std::pair{0, 0}));  // 0 is compared with 1
+    EXPECT_EQ(click(2), (std::pair{1, 0}));
+    EXPECT_EQ(click(1), (std::pair{0, 1}));  // 1 is the last column, counted from 0
+    EXPECT_EQ(click(1), (std::pair{0, 1}));
+    EXPECT_EQ(rows.item(1).text, "b.u");
+}
+
 TEST_F(ExtractionRun, BoxesShowTheFileUnderWork) {
     indexOf({"a.u", "Clémence & co's [x].unr"});
     run();

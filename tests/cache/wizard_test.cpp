@@ -62,6 +62,12 @@ TEST_F(Wizard, FolderWithoutAnIndexIsNotRemembered) {
     EXPECT_EQ(program.gamePaths.UTMapPath, "C:\\UT\\Maps");
 }
 
+TEST_F(Wizard, DestinationIsTheGameOrTheNamedFolderWithABackslash) {
+    program.gamePaths = {"C:\\UT", "C:\\UT\\Cache", "C:\\Elsewhere", "C:\\UT\\System"};
+    EXPECT_EQ(destinationRoot(program, true, "D:\\Mine"), "C:\\UT\\");
+    EXPECT_EQ(destinationRoot(program, false, "D:\\Mine"), "D:\\Mine\\");
+}
+
 TEST_F(Wizard, LastDestinationIsOfferedWhileItExists) {
     program.gamePaths.UTPath = "C:\\UT";
     program.settings.ExtractDest = "C:\\Out";

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "compress/packer.h"
+#include "compress/batchfixture.h"
 
 namespace tessaro {
 namespace {
@@ -24,24 +24,14 @@ Message missing(const std::string& file) {
             Icon::Stop};
 }
 
-class CompressBatchTest : public ::testing::Test {
+class CompressBatchTest : public test::BatchTest<CompressBatch> {
   protected:
-    test::TestProgram world_;
-    test::Packer packer_{world_};
-    test::TestWorld& disk_ = world_.world;
-    test::RecordingBatch form_;
-    CompressBatch batch_{world_.program, form_, Ucc(world_.program, test::anotherSystem)};
-
     /// A batch of files in C:\Maps that hold their own names.
     void list(const std::vector<std::string>& names) {
         for (const std::string& name : names) {
             disk_.write("C:\\Maps\\" + name, name);
             packer_.fillBatch(batch_.ListView1, {"C:\\Maps\\" + name});
         }
-    }
-    void run(Answer answer = Answer::No) {
-        world_.dialogs.answer(answer);
-        batch_.run();
     }
     static std::string packed(const std::string& name) { return Packer::compressed(name, name); }
 };
@@ -140,6 +130,8 @@ TEST_F(CompressBatchTest, InTheSourcesOwnFolderNothingIsMoved) {
     EXPECT_EQ(disk_.host.count(test::Call::RemoveFile), 0);
     EXPECT_EQ(disk_.read(R"(C:\Maps\a.unr.uz)"), packed("a.unr"));
     EXPECT_THAT(rowsOf(batch_.ListView2), ElementsAre(R"(C:\Maps\a.unr.uz|11)"));
+    run();
+    EXPECT_THAT(world_.processes.runs, SizeIs(1)) << "The second run finds the target";
 }
 
 TEST_F(CompressBatchTest, TheSourcesOwnFolderInAnotherSpellingCountsAsAnotherFolder) {
@@ -148,6 +140,46 @@ TEST_F(CompressBatchTest, TheSourcesOwnFolderInAnotherSpellingCountsAsAnotherFol
     // The file is copied onto itself, which the system refuses.
     EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::PermissionDenied);
     EXPECT_EQ(disk_.read(R"(C:\Maps\a.unr.uz)"), packed("a.unr"));
+}
+
+TEST_F(CompressBatchTest, InAnotherSpellingOfTheSourcesFolderALaterResultIsLost) {
+    world_.program.CompressDest = R"(C:\MAPS)";
+    list({"a.unr", "b.unr"});
+    disk_.write(R"(C:\Maps\a.unr.uz)", "old");
+    run();
+    // Nobody hears of the refused copy, and what is deleted then is the only one there is.
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion));
+    EXPECT_THAT(disk_.names(R"(C:\Maps)"), ElementsAre("a.unr", "a.unr.uz", "b.unr"));
+    EXPECT_THAT(rowsOf(batch_.ListView2),
+                ElementsAre(R"(C:\MAPS\a.unr.uz|3)", R"(C:\MAPS\b.unr.uz)"));
+}
+
+TEST_F(CompressBatchTest, ADrivesRootAsDestinationGivesTargetsWithTwoBackslashes) {
+    world_.program.CompressDest = R"(C:\)";
+    list({"a.unr"});
+    run();
+    EXPECT_EQ(disk_.read(R"(C:\a.unr.uz)"), packed("a.unr"));
+    EXPECT_THAT(disk_.names(R"(C:\Maps)"), ElementsAre("a.unr"));
+    EXPECT_THAT(rowsOf(batch_.ListView2), ElementsAre(R"(C:\\a.unr.uz|11)"));
+}
+
+TEST_F(CompressBatchTest, ADrivesRootCountsAsAnotherFolderThanThatOfAFileInIt) {
+    world_.program.CompressDest = R"(C:\)";
+    disk_.write(R"(C:\a.unr)", "a.unr");
+    packer_.fillBatch(batch_.ListView1, {R"(C:\a.unr)"});
+    EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::PermissionDenied);
+    EXPECT_EQ(disk_.read(R"(C:\a.unr.uz)"), packed("a.unr"));
+}
+
+TEST_F(CompressBatchTest, ALaterFileInADrivesRootIsLostThere) {
+    world_.program.CompressDest = R"(C:\)";
+    list({"a.unr"});
+    disk_.write(R"(C:\b.unr)", "b.unr");
+    packer_.fillBatch(batch_.ListView1, {R"(C:\b.unr)"});
+    run();
+    EXPECT_TRUE(disk_.exists(R"(C:\a.unr.uz)"));
+    EXPECT_TRUE(disk_.exists(R"(C:\b.unr)"));
+    EXPECT_FALSE(disk_.exists(R"(C:\b.unr.uz)"));
 }
 
 TEST_F(CompressBatchTest, AnOldResultBesideTheSourceIsMadeAnewAndMoved) {
@@ -243,6 +275,15 @@ TEST_F(CompressBatchTest, AResultThatCannotBeDeletedIsFatalAtTheFirstFileOnly) {
     disk_.host.refuse(test::Call::RemoveFile, errors::PermissionDenied, "a.unr.uz");
     std::filesystem::remove(disk_.at(R"(C:\Out\a.unr.uz)"));
     EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::PermissionDenied);
+}
+
+TEST_F(CompressBatchTest, ExistingFilesAreCountedIn16BitsAndTheListGoesOn) {
+    disk_.write(R"(C:\Out\a.unr.uz)", "old");
+    listRepeatedly(R"(C:\Maps\a.unr)", 32769);
+    run();
+    EXPECT_EQ(form_.seen.at(form_.seen.size() - 3), "existing 32767");
+    EXPECT_EQ(form_.seen.at(form_.seen.size() - 2), "progress 32769");
+    EXPECT_EQ(batch_.ListView2.count(), 32769u);
 }
 
 TEST_F(CompressBatchTest, AnEmptyListOnlyAsks) {

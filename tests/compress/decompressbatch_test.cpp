@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "compress/packer.h"
+#include "compress/batchfixture.h"
 
 namespace tessaro {
 namespace {
@@ -42,24 +42,14 @@ class LosingHost : public test::FailingHost {
     HostPath file_;
 };
 
-class DecompressBatchTest : public ::testing::Test {
+class DecompressBatchTest : public test::BatchTest<DecompressBatch> {
   protected:
-    test::TestProgram world_;
-    test::Packer packer_{world_};
-    test::TestWorld& disk_ = world_.world;
-    test::RecordingBatch form_;
-    DecompressBatch batch_{world_.program, form_, Ucc(world_.program, test::anotherSystem)};
-
     /// A batch of compressed packages in C:\Packed that hold their own file names.
     void list(const std::vector<std::string>& names) {
         for (const std::string& name : names) {
             packer_.writeUz("C:\\Packed\\" + name, name);
             packer_.fillBatch(batch_.ListView1, {"C:\\Packed\\" + name});
         }
-    }
-    void run(Answer answer = Answer::No) {
-        world_.dialogs.answer(answer);
-        batch_.run();
     }
 };
 
@@ -236,6 +226,37 @@ TEST_F(DecompressBatchTest, APackageOfTheGamesWithTheSameNameIsLost) {
     run();
     EXPECT_THAT(disk_.names(systemFolder), IsEmpty());
     EXPECT_EQ(disk_.read(R"(C:\Out\Botpack.u)"), "Botpack.u.uz");
+}
+
+TEST_F(DecompressBatchTest, TheSystemFolderAsDestinationIsAFailureThatKeepsTheResult) {
+    world_.program.DecompressDest = systemFolder;
+    list({"a.unr.uz"});
+    EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::PermissionDenied);
+    EXPECT_THAT(disk_.names(systemFolder), ElementsAre("a.unr"));
+}
+
+TEST_F(DecompressBatchTest, ADrivesRootAsDestinationGivesRowsWithTwoBackslashes) {
+    world_.program.DecompressDest = R"(C:\)";
+    list({"a.unr.uz"});
+    run();
+    EXPECT_EQ(disk_.read(R"(C:\a.unr)"), "a.unr.uz");
+    EXPECT_THAT(rowsOf(batch_.ListView2), ElementsAre(R"(C:\\a.unr|8)"));
+}
+
+TEST_F(DecompressBatchTest, MoreFilesThan16BitsHoldAreAFailureAheadOfTheFirst) {
+    listRepeatedly(R"(C:\Packed\gone.unr.uz)", 32768);
+    EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::Overflow);
+    EXPECT_THAT(form_.seen, ElementsAre("progress 0", "running"));
+    EXPECT_THAT(world_.dialogs.messages, IsEmpty());
+}
+
+TEST_F(DecompressBatchTest, APositionPast16BitsIsAFailureAfterTheLastFile) {
+    listRepeatedly(R"(C:\Packed\gone.unr.uz)", 32766);
+    packer_.writeUz(R"(C:\Packed\a.unr.uz)", "x");
+    disk_.write(R"(C:\Out\a.unr)", "old");
+    packer_.fillBatch(batch_.ListView1, {R"(C:\Packed\a.unr.uz)"});
+    EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::Overflow);
+    EXPECT_EQ(form_.seen.back(), "progress 32767");
 }
 
 TEST_F(DecompressBatchTest, AFullDiskIsAFailureAndLosesNothing) {

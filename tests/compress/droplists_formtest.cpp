@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSysInfo>
 #include <QTest>
 
 #include "compress/comp.h"
@@ -116,6 +117,15 @@ TEST_F(DropForms, ANameThatIsNoUtf8ArrivesAsItIs) {
     dropAddresses(list(form),
                   "file://" + QByteArray::fromStdString(disk_.driveC()) + "/caf%E9.unr\r\n");
     EXPECT_THAT(rowsOf(form.dropped()), ElementsAre("caf\xE9.unr|C:\\|2"));
+}
+
+TEST_F(DropForms, AnAddressThatNamesThisMachineIsAFileOfIt) {
+    comp& form = shown<comp>();
+    const QByteArray path = QByteArray::fromStdString(file(R"(C:\a.unr)").string());
+    for (const QByteArray& machine :
+         {QByteArray("localhost"), QSysInfo::machineHostName().toUtf8()})
+        dropAddresses(list(form), "file://" + machine + path + "\r\n");
+    EXPECT_THAT(rowsOf(form.dropped()), ElementsAre(R"(a.unr|C:\|2)", R"(a.unr|C:\|2)"));
 }
 
 TEST_F(DropForms, ADropOfTextIsRefusedAndChangesNothing) {
@@ -231,9 +241,11 @@ TEST_F(DropForms, TheDecompressorStaysBehindItsBatchWhichBlocks) {
     EXPECT_EQ(forms_.loaded<decomp2>(), nullptr);
 }
 
-TEST_F(DropForms, TheCloseButtonUnloadsAndTheMinimiseButtonDoesNothing) {
+TEST_F(DropForms, TheCloseButtonUnloadsAndTheOneBesideItPromisesAndDoesNothing) {
     comp& form = shown<comp>();
     ASSERT_NE(form.CommandQ, nullptr);
+    EXPECT_EQ(form.CommandQ->text() + form.CommandQ->toolTip(), QString());
+    EXPECT_EQ(form.CommandQ->accessibleName(), QStringLiteral("No function"));
     form.CommandQ->click();
     EXPECT_TRUE(form.isVisible());
     EXPECT_FALSE(form.isMinimized());

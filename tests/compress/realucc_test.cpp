@@ -115,6 +115,24 @@ TEST_F(RealUcc, UnusualNamesGoThereAndBack) {
     for (const std::string& name : names) EXPECT_EQ(disk_.read("C:\\Back\\" + name), bytesOf(name));
 }
 
+TEST_F(RealUcc, NamesThatLookLikePatternsTakeNoOtherFileWithThem) {
+    const HostPath maps = disk_.driveC() / "Maps";
+    const std::vector<std::string> names{"a\".unr", "a*.unr", "a?.unr"};
+    test::TestWorld::writeHost(maps / "ab.unr.uz", "another's");
+    for (const std::string& name : names) {
+        test::TestWorld::writeHost(maps / name, bytesOf(name));
+        packer_.fillBatch(compression_.ListView1, {world_.program.paths.toGame(maps / name)});
+    }
+    run(compression_);
+    EXPECT_THAT(world_.dialogs.messages, SizeIs(1));
+    EXPECT_EQ(test::TestWorld::readHost(maps / "ab.unr.uz"), "another's");
+    for (const std::string& name : names) {
+        EXPECT_EQ(test::TestWorld::readHost(maps / name), bytesOf(name));
+        EXPECT_TRUE(std::filesystem::exists(disk_.at(destination) / (name + ".uz"))) << name;
+        EXPECT_FALSE(std::filesystem::exists(maps / (name + ".uz"))) << name;
+    }
+}
+
 /// Ways of the packer to leave nothing where it should.
 class UccThatFails : public RealUcc, public ::testing::WithParamInterface<const char*> {
   protected:

@@ -1,11 +1,14 @@
 #include "core/MainFrm.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QStatusBar>
 #include <QStatusTipEvent>
 #include <QTest>
 
 #include "cache/mapext.h"
+#include "compress/comp.h"
 #include "forms/twips.h"
 #include "prefs/Prefs.h"
 #include "support/forms/gameforms.h"
@@ -111,6 +114,16 @@ TEST_F(MainWindowForm, WindowStateBeyondTheThreeEndsTheProgram) {
     EXPECT_TRUE(forms_.ended());
 }
 
+TEST_F(MainWindowForm, SoundFlagThatIsNoNumberStopsTheStartAtTheFirstSound) {
+    settings("[Misc]\r\nShowSplash=0\r\nSounds=loud\r\n[Common]\r\nWindowSize=2\r\n");
+    world_.dialogs.answer(Answer::Ok);
+    forms::guarded(forms_, [this] { forms_.show<MainFrm>(); });
+    ASSERT_EQ(world_.dialogs.messages.size(), 1u);
+    EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '13':\n\nType mismatch");
+    EXPECT_TRUE(forms_.ended());
+    EXPECT_EQ(forms_.loaded<forms::Prefs>(), nullptr);  // the path check was not reached
+}
+
 TEST_F(MainWindowForm, RunCountAtItsLimitEndsTheProgramWithTheReport) {
     settings("[Misc]\r\nTimesUsed=32767\r\n");
     world_.dialogs.answer(Answer::Ok);
@@ -140,6 +153,19 @@ TEST_F(MainWindowForm, ExitItemUnloadsAndThenEndsTheProgram) {
     EXPECT_EQ(sounds_.back(), "nasty");
 }
 
+TEST_F(MainWindowForm, ExitDuringTheFarewellDoesNotLoseTheSettings) {
+    MainFrm& window = start();
+    program_.settings.Skin = "2";
+    world_.events.onPump = [&] {
+        if (!forms_.isLoaded(window)) return;
+        menuItem("mnuexit").trigger();
+        end_.throwIfEnded();  // as a real pump does
+    };
+    window.close();
+    EXPECT_TRUE(forms_.empty());
+    EXPECT_NE(savedSettings().find("Skin=2\r\n"), std::string::npos);
+}
+
 TEST_F(MainWindowForm, ExitOfThePopUpMenuDoesTheSame) {
     start();
     menuItem("mnurexit").trigger();
@@ -158,6 +184,15 @@ TEST_F(MainWindowForm, ExtractorOpensByItsKeyAndOnlyOnce) {
     EXPECT_FALSE(wizard->isModal());
     menuItem("mnumapextractor").trigger();
     EXPECT_EQ(forms_.loaded<forms::mapext>(), wizard);
+}
+
+TEST_F(MainWindowForm, CtrlCOpensTheCompressorAndCopiesNothing) {
+    MainFrm& window = start();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
+    QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_NE(forms_.loaded<forms::comp>(), nullptr);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
 }
 
 TEST_F(MainWindowForm, ExtractorOfThePopUpMenuBlocksUntilItIsClosed) {

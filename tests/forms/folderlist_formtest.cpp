@@ -119,6 +119,14 @@ TEST_F(FolderLists, TypedLettersFindAFolder) {
     EXPECT_EQ(list_.currentItem()->text(0), QStringLiteral("System"));
 }
 
+TEST_F(FolderLists, AFolderThatMayNotBeEnteredLeavesTheListAsItIs) {
+    world_.host.refuse(test::Call::Status, errors::PermissionDenied, "Maps/.");
+    EXPECT_EQ(test::errorOf([&] { list_.setPath("C:\\Games\\UT\\Maps"); }),
+              errors::PermissionDenied);
+    QTest::mouseDClick(list_.viewport(), Qt::LeftButton, {}, placeOf("Maps"));
+    EXPECT_EQ(list_.path(), "C:\\Games\\UT");
+}
+
 TEST_F(FolderLists, AFolderThatHasGoneLeavesTheListAsItIs) {
     std::filesystem::remove(world_.at("C:\\Games\\UT\\Maps"));
     QTest::mouseClick(list_.viewport(), Qt::LeftButton, {}, placeOf("Maps"));

@@ -2,8 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QContextMenuEvent>
 #include <QCoreApplication>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "forms/qtevents.h"
 #include "forms/qtsounds.h"
@@ -39,6 +45,92 @@ TEST_F(RealEvents, TheClockLiesWithinADay) {
     const double now = QtEvents(end_).secondsSinceMidnight();
     EXPECT_GE(now, 0);
     EXPECT_LT(now, 86400);
+}
+
+/// A window that the user tries to use while a child process runs.
+class RepaintDuringAChild : public test::FormsTest {
+  protected:
+    struct Window : QWidget {
+        int paints = 0;
+        int clicks = 0;
+        int contextMenus = 0;
+        QPushButton button{this};
+        QLineEdit box{this};
+
+        Window() {
+            box.move(0, 50);
+            box.setContextMenuPolicy(Qt::CustomContextMenu);
+            connect(&button, &QPushButton::clicked, this, [this] { ++clicks; });
+            connect(&box, &QLineEdit::customContextMenuRequested, this, [this] { ++contextMenus; });
+        }
+        void paintEvent(QPaintEvent*) override { ++paints; }
+    };
+
+    RepaintDuringAChild() {
+        window_.show();
+        test::serveEvents();
+    }
+    /// Does something from inside the repaint, where the desktop's events come in.
+    void meanwhile(const std::function<void()>& act) {
+        bool acted = false;
+        QTimer::singleShot(0, &window_, [&] {
+            acted = true;
+            act();
+        });
+        while (!acted) events_.repaint();
+    }
+    void useEverything() {
+        QTest::mouseClick(&window_.button, Qt::LeftButton);
+        QTest::keyClick(&window_.button, Qt::Key_Space);
+        QTest::keyClicks(&window_.box, QStringLiteral("typed"));
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("composed"));
+        QCoreApplication::sendEvent(&window_.box, &composed);
+        QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint(), Qt::NoModifier);
+        QCoreApplication::sendEvent(&window_.box, &menuKey);
+    }
+
+    QtEvents events_{end_};
+    Window window_;
+};
+
+TEST_F(RepaintDuringAChild, LetsWindowsPaint) {
+    const int before = window_.paints;
+    window_.update();
+    while (window_.paints == before) events_.repaint();
+    EXPECT_GT(window_.paints, before);
+}
+
+TEST_F(RepaintDuringAChild, LosesClicksKeysAndMenus) {
+    meanwhile([this] { useEverything(); });
+    EXPECT_EQ(window_.clicks, 0);
+    EXPECT_EQ(window_.box.text(), QString());
+    EXPECT_EQ(window_.contextMenus, 0);
+}
+
+TEST_F(RepaintDuringAChild, InputCountsAgainAfterwards) {
+    events_.repaint();
+    useEverything();
+    EXPECT_EQ(window_.clicks, 2);
+    EXPECT_EQ(window_.box.text(), QStringLiteral("typedcomposed"));
+    EXPECT_EQ(window_.contextMenus, 1);
+}
+
+TEST_F(RepaintDuringAChild, ACloseButtonClosesNothing) {
+    meanwhile([this] { window_.windowHandle()->close(); });
+    EXPECT_TRUE(window_.isVisible());
+    window_.windowHandle()->close();
+    EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(RepaintDuringAChild, AnEndOfTheProgramLeavesTheWait) {
+    EXPECT_THROW(meanwhile([this] { end_.end(); }), ProgramEnded);
+}
+
+TEST_F(RepaintDuringAChild, TheEndOfTheDesktopsSessionEndsTheProgram) {
+    QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit));
+    EXPECT_THROW(events_.repaint(), ProgramEnded);
+    EXPECT_TRUE(end_.ended());
 }
 
 TEST(RealSounds, ASoundsBytesAreFoundWithoutRegardToCase) {

@@ -261,8 +261,11 @@ TEST_F(FormRegistry, TheEndUnwindsNestedModalForms) {
 TEST_F(FormRegistry, TheProgramRunsUntilNoFormIsLeft) {
     forms_.show<First>();
     forms_.get<Second>();
-    QTimer::singleShot(1, [&] { forms_.get<First>().close(); });
-    QTimer::singleShot(5, [&] { forms_.UnloadAllForms(); });
+    QTimer::singleShot(1, [&] {
+        forms_.get<First>().close();
+        // In a later turn of the loop, when the closed form is really gone.
+        QTimer::singleShot(1, [&] { forms_.UnloadAllForms(); });
+    });
     EXPECT_EQ(forms_.run(), 0);
     EXPECT_THAT(events, ElementsAre("made 1", "Load 1", "made 2", "Load 2", "QueryUnload 1",
                                     "Unload 1", "gone 1", "Unload 2"));

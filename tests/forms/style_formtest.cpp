@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QProxyStyle>
 #include <QStyle>
 
 #include <QComboBox>
@@ -11,9 +12,17 @@ namespace tessaro::forms {
 namespace {
 
 TEST(ProgramStyle, IsFixedAndDoesNotFollowTheDesktop) {
-    EXPECT_EQ(QApplication::style()->name(), QStringLiteral("fusion"));
+    const auto* style = qobject_cast<QProxyStyle*>(QApplication::style());
+    ASSERT_NE(style, nullptr);
+    EXPECT_EQ(style->baseStyle()->name(), QStringLiteral("fusion"));
     EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
     EXPECT_FALSE(QApplication::windowIcon().isNull());
+}
+
+TEST(ProgramStyle, HasThePictureThatAMenuBarAsksFor) {
+    const QIcon icon =
+        QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+    EXPECT_FALSE(icon.pixmap(16).isNull());
 }
 
 TEST(ProgramStyle, EveryTextStandsOutFromItsGround) {

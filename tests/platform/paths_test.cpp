@@ -168,6 +168,19 @@ TEST(Paths, ABackslashInAHostNameSurvivesTheWayThereAndBack) {
     EXPECT_EQ(world.files.read(game), "x");
 }
 
+TEST(Paths, PatternLettersAndQuotesInAHostNameSurviveTheWayThereAndBack) {
+    TestWorld world;
+    const HostPath odd = world.driveC() / "a*" / "b?\"c.ini";
+    TestWorld::writeHost(odd, "x");
+    TestWorld::writeHost(world.driveC() / "a*" / "bb\"c.ini", "y");
+    const std::string game = world.paths.toGame(odd);
+    EXPECT_EQ(game, "C:\\a\uF02A\\b\uF03F\uF022c.ini");
+    EXPECT_EQ(world.paths.toHost(game), odd);
+    EXPECT_EQ(world.files.list(game, attributes::Normal).size(), 1U);
+    world.files.deleteFiles(game);
+    EXPECT_EQ(std::distance(fs::directory_iterator(odd.parent_path()), {}), 1);
+}
+
 TEST(Paths, TheStartIsTheProcessFolder) {
     TestWorld world;
     world.makeFolder("C:\\Game");

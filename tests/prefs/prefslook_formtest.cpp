@@ -77,6 +77,12 @@ TEST_F(PrefsLook, EveryControlBearsItsTextAndTooltip) {
     }
 }
 
+TEST_F(PrefsLook, TheNumberOfStartsHasNoLeadingZeros) {
+    program_.settings.TimesUsed = 7;
+    openOnGame();
+    EXPECT_EQ(control<QLabel>("cntlbl").text(), QStringLiteral("7"));
+}
+
 TEST_F(PrefsLook, TheHiddenBoxesKeepTheirSettingsOutOfSight) {
     openOnGame();
     for (const char* name : {"Text5", "Text6", "Text7"}) {

@@ -3,6 +3,8 @@
 
 #include <cstdio>
 #include <exception>
+#include <stdexcept>
+#include <string>
 
 #include "platform/drives.h"
 #include "platform/files.h"
@@ -23,11 +25,15 @@ void pointSettingsAt(const HostPath& game, const HostPath& settings) {
     ProfileCalls profile(files);
     const std::string root = paths.toGame(game);
     const std::string file = paths.toGame(settings);
-    profile.writePrivateProfileString("UTPaths", "UTPath", root, file);
-    profile.writePrivateProfileString("UTPaths", "UTCachePath", root + "\\Cache", file);
-    profile.writePrivateProfileString("UTPaths", "UTMapPath", root + "\\Maps", file);
-    profile.writePrivateProfileString("UTPaths", "UTSysPath", root + "\\System", file);
-    profile.writePrivateProfileString("Common", "VORNX", root + "\\UTMaps", file);
+    const auto set = [&](const char* section, const char* key, const std::string& text) {
+        if (!profile.writePrivateProfileString(section, key, text, file))
+            throw std::runtime_error("cannot write " + settings.string());
+    };
+    set("UTPaths", "UTPath", root);
+    set("UTPaths", "UTCachePath", root + "\\Cache");
+    set("UTPaths", "UTMapPath", root + "\\Maps");
+    set("UTPaths", "UTSysPath", root + "\\System");
+    set("Common", "VORNX", root + "\\UTMaps");
 }
 
 }  // namespace

@@ -208,7 +208,7 @@ class PosixHost : public Host {
 
     HostPath currentFolder() override {
         std::error_code error;
-        const HostPath folder = std::filesystem::current_path(error);
+        HostPath folder = std::filesystem::current_path(error);
         if (error) raiseHostError(error, "current folder");
         return folder;
     }
@@ -226,7 +226,7 @@ std::unique_ptr<Host> makeHost() {
 
 HostPath executablePath() {
     std::error_code error;
-    const HostPath file = std::filesystem::read_symlink("/proc/self/exe", error);
+    HostPath file = std::filesystem::read_symlink("/proc/self/exe", error);
     if (error) raiseHostError(error, "/proc/self/exe");
     return file;
 }

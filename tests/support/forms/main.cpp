@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QLocale>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include "forms/style.h"
@@ -16,8 +15,9 @@ void isolate(const QTemporaryDir& settings) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    qputenv("XDG_CACHE_HOME", settings.path().toUtf8());
     qputenv("XDG_DATA_HOME", settings.path().toUtf8());
-    QStandardPaths::setTestModeEnabled(true);
+    qputenv("XDG_RUNTIME_DIR", settings.path().toUtf8());
     QLocale::setDefault(QLocale::c());
 }
 

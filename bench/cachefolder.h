@@ -1,0 +1,33 @@
+#pragma once
+// What the two figures about extraction share.
+
+#include <cstdio>
+#include <string>
+
+#include "bench/world.h"
+#include "cache/extraction.h"
+
+namespace tessaro::bench {
+
+inline constexpr char cacheFolder[] = "C:\\UnrealTournament\\Cache";
+
+/// Watches an extraction without doing anything.
+class NoObserver : public ExtractionObserver {
+  public:
+    void show(ExtractionBox, const std::string&) override {}
+    void setRunning(bool) override {}
+    void setBusyPointer(bool) override {}
+    bool stopped() override { return false; }
+    bool overwriteExisting() override { return true; }
+    void closeRequested() override {}
+};
+
+/// 32 hex digits, another for each number.
+inline std::string guidOf(int number) {
+    char digits[33];
+    std::snprintf(digits, sizeof digits, "25378BF44584EF794EAC6E86%08X",
+                  static_cast<unsigned>(number));
+    return digits;
+}
+
+}  // namespace tessaro::bench

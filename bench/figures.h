@@ -1,0 +1,19 @@
+#pragma once
+// The figures. Each prints its lines and gives whether all of them keep their marks.
+
+namespace tessaro::bench {
+
+/// An extraction whose cached files are all missing, in a folder full of others, against reading
+/// the lines of the index and asking the system for each file.
+bool extractMissingFiles();
+/// An extraction of present files, against the standard library's copy of the same files.
+bool extractPresentFiles();
+/// A key of a large profile file, read and written, against GLib's key file parser.
+bool profileFile();
+/// From a process's start to its main window's first paint, and the memory resident then, against
+/// an empty main window.
+bool firstPaint();
+/// A batch through the compressor, against a shell's loop over the same files.
+bool compressBatch();
+
+}  // namespace tessaro::bench

@@ -1,0 +1,10 @@
+// tessaro-bench-program: the program as it ships, ended at its first paint.
+
+#include "bench/window/firstpaint.h"
+#include "forms/application.h"
+
+int main(int argc, char** argv) {
+    tessaro::forms::Application application(argc, argv);
+    const tessaro::bench::FirstPaint hook;
+    return application.run();
+}
