@@ -28,6 +28,27 @@ QString soundFile(std::string_view name) {
     return file;
 }
 
+/// While one lives, Qt says nothing on the terminal.
+class Hush {
+  public:
+    Hush()
+        : before_(
+              qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {})) {
+    }
+    ~Hush() { qInstallMessageHandler(before_); }
+    Hush(const Hush&) = delete;
+    Hush& operator=(const Hush&) = delete;
+
+  private:
+    QtMessageHandler before_;
+};
+
+bool hasDevice() {
+    // Without a sound server Qt complains, which is no news to somebody who has none.
+    const Hush hush;
+    return !QMediaDevices::defaultAudioOutput().isNull();
+}
+
 }  // namespace
 
 QtSounds::QtSounds() {
@@ -58,7 +79,7 @@ void QtSounds::playSoon() {
 void QtSounds::playNext() {
     const QUrl url(QStringLiteral("qrc:") + std::exchange(next_, QString()));
     // Asked each time: a headset may be plugged in while the program runs.
-    silent_ = QMediaDevices::defaultAudioOutput().isNull();
+    silent_ = !hasDevice();
     if (silent_) return;
     if (!effect_) effect_ = std::make_unique<QSoundEffect>();
     effect_->stop();

@@ -187,9 +187,6 @@ void SkinnedForm::placeTitle() {
     Title->move(Title->x(), border + (strut_->minimumHeight() - Title->height()) / 2);
     centreAcross(*this, *timg);
     centreAcross(*this, *Title);
-    Title->raise();
-    strut_->raise();
-    Title->stackUnder(strut_);
 }
 
 }  // namespace tessaro::forms

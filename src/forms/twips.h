@@ -10,6 +10,7 @@ inline constexpr double twipsPerPixel = 15;
 inline int pixels(double twips) {
     return static_cast<int>(std::lround(twips / twipsPerPixel));
 }
+/// Device-independent pixels to twips.
 inline double twips(int pixels) {
     return pixels * twipsPerPixel;
 }

@@ -9,6 +9,7 @@ namespace tessaro {
 using YesNo = std::int16_t;
 inline constexpr YesNo Yes = -1;
 inline constexpr YesNo No = 0;
+/// A condition as such an answer.
 constexpr YesNo yesNo(bool truth) {
     return truth ? Yes : No;
 }

@@ -8,7 +8,9 @@ namespace tessaro {
 
 /// Space, tab and vertical tab.
 std::string_view trimProfileBlanks(std::string_view text);
+/// Whether `trimProfileBlanks` cuts that byte.
 bool isProfileBlank(char byte);
+/// CR or LF.
 bool isLineEnd(char byte);
 /// Where the line after one that ends at `end` begins.
 std::size_t afterLineEnd(std::string_view text, std::size_t end);

@@ -38,7 +38,7 @@ inline constexpr int IndexOutOfBounds = 35600;
 class RunTimeError : public std::exception {
   public:
     explicit RunTimeError(int number);
-    /// `detail` (a path, the system's words) is for the log of a developer, never for the report.
+    /// `detail` (a path, the system's words) tells a debugger or a test more; the report never shows it.
     RunTimeError(int number, std::string detail);
 
     int number() const { return number_; }

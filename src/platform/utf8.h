@@ -14,7 +14,9 @@ namespace tessaro {
 char32_t nextCharacter(std::string_view text, std::size_t& position);
 /// Takes any code up to U+1FFFFF; what is no character gives bytes that are no valid UTF-8.
 void appendCharacter(std::string& text, char32_t character);
+/// Whether every byte belongs to a character.
 bool isValidUtf8(std::string_view text);
+/// Whether every character is one byte.
 bool isAsciiText(std::string_view text);
 
 /// Number of characters.
@@ -28,6 +30,7 @@ std::string_view mid(std::string_view text, std::size_t start, std::size_t count
 
 /// One character's lower case (Latin, Greek and Cyrillic letters), for matching names.
 char32_t lowerCase(char32_t character);
+/// The same of each character.
 std::string lowerCase(std::string_view text);
 /// Whether two names are the same but for case.
 bool sameName(std::string_view one, std::string_view other);

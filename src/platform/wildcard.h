@@ -4,6 +4,7 @@
 
 namespace tessaro {
 
+/// Whether a text stands for a set of names: holds `*` or `?`.
 bool hasWildcard(std::string_view pattern);
 
 /// Whether a name fits a pattern: `*` is any run of characters, `?` any one, case does not matter.

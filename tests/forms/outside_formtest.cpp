@@ -163,6 +163,20 @@ TEST(RealSounds, StartingIsHarmlessWhetherOrNotThereIsADevice) {
     test::serveEvents();
 }
 
+QStringList* saidByQt = nullptr;
+
+TEST(RealSounds, WithoutADeviceNothingIsSaidOnTheTerminal) {
+    QStringList said;
+    saidByQt = &said;
+    const auto before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { saidByQt->append(text); });
+    QtSounds sounds;
+    const bool silent = QTest::qWaitFor([&] { return sounds.start("roger") == 0; }, 2000);
+    qInstallMessageHandler(before);
+    if (!silent) GTEST_SKIP() << "There is a sound device here.";
+    EXPECT_EQ(said.filter(QStringLiteral("Audio")), QStringList());
+}
+
 TEST(Twips, FifteenMakeAPixel) {
     EXPECT_EQ(pixels(8000), 533);
     EXPECT_EQ(pixels(250), 17);

@@ -72,6 +72,16 @@ class SkinnedForms : public test::FormsTest {
     }
 };
 
+TEST_F(SkinnedForms, NothingLiesBetweenTheMouseAndTheFramesControls) {
+    Tool& form = shown();
+    const QPoint plate(form.timg->x() + 5, form.timg->geometry().center().y());
+    EXPECT_EQ(form.childAt(plate), form.timg);
+    for (const QWidget* control :
+         {static_cast<QWidget*>(form.Title), static_cast<QWidget*>(form.CommandX)})
+        EXPECT_EQ(form.childAt(control->geometry().center()), control)
+            << control->objectName().toStdString();
+}
+
 TEST_F(SkinnedForms, OpensWithTheFocusOnItsFirstControl) {
     Tool& form = shown();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
