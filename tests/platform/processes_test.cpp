@@ -330,6 +330,9 @@ TEST_F(WineTest, WithoutWineAProgramForWindowsDoesNothing) {
 TEST_F(WineTest, RealConsoleProgramRunsThroughRealWine) {
     if (std::system("command -v wine >/dev/null") != 0) GTEST_SKIP() << "Wine is not installed";
     const test::Environment prefix("WINEPREFIX", world.prefix());
+    // Wine leaves menus in the one and its server's lock in the other.
+    const test::Environment home("HOME", world.folder());
+    const test::Environment temporary("TMPDIR", world.folder());
     const test::Environment quiet("WINEDLLOVERRIDES", "mscoree,mshtml=");
     const test::Environment silent("WINEDEBUG", "-all");
     if (std::system("wine wineboot -i >/dev/null 2>&1") != 0) {
