@@ -38,7 +38,8 @@ inline constexpr int IndexOutOfBounds = 35600;
 class RunTimeError : public std::exception {
   public:
     explicit RunTimeError(int number);
-    /// `detail` (a path, the system's words) tells a debugger or a test more; the report never shows it.
+    /// `detail` (a path, the system's words) tells a debugger or a test more; the report never
+    /// shows it.
     RunTimeError(int number, std::string detail);
 
     int number() const { return number_; }
