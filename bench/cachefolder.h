@@ -22,6 +22,22 @@ class NoObserver : public ExtractionObserver {
     void closeRequested() override {}
 };
 
+/// How many files an extraction copied, and how many were gone from the cache.
+struct Extracted {
+    std::size_t copied;
+    std::size_t missed;
+};
+
+/// One run from the cache folder into `C:\Out`.
+inline Extracted extract(World& world) {
+    FreshProgram fresh(world);
+    NoObserver observer;
+    Extraction extraction(fresh.program, observer);
+    extraction.entry.mypath = "C:\\Out\\";
+    extraction.run(cacheFolder);
+    return {extraction.ListView1.count(), extraction.List2.size()};
+}
+
 /// 32 hex digits, another for each number.
 inline std::string guidOf(int number) {
     char digits[33];
