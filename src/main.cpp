@@ -1,6 +1,6 @@
 // The program: made of the two libraries and nothing else.
 
-#include "forms/application.h"
+#include "app/application.h"
 
 int main(int argc, char** argv) {
     return tessaro::forms::Application(argc, argv).run();

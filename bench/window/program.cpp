@@ -1,7 +1,7 @@
 // tessaro-bench-program: the program as it ships, ended at its first paint.
 
+#include "app/application.h"
 #include "bench/window/firstpaint.h"
-#include "forms/application.h"
 
 int main(int argc, char** argv) {
     tessaro::forms::Application application(argc, argv);

@@ -1,7 +1,7 @@
 #include "cache/cacheindex.h"
 
-#include "platform/runtimeerror.h"
-#include "platform/utf8.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/utf8.h"
 
 namespace tessaro {
 namespace {

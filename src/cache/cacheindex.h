@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/int16.h"
+#include "platform/runtime/int16.h"
 
 namespace tessaro {
 

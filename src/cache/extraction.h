@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "cache/cacheindex.h"
-#include "core/listitems.h"
 #include "core/program.h"
+#include "platform/outside/listitems.h"
 
 namespace tessaro {
 

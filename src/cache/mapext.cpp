@@ -4,12 +4,12 @@
 
 #include "cache/wizard.h"
 #include "core/VORNX.h"
+#include "core/centerform.h"
 #include "core/routines.h"
-#include "forms/columns.h"
-#include "forms/handler.h"
-#include "forms/placement.h"
-#include "forms/text.h"
-#include "platform/runtimeerror.h"
+#include "kit/controls/columns.h"
+#include "kit/forms/handler.h"
+#include "kit/look/text.h"
+#include "platform/runtime/runtimeerror.h"
 #include "shell/Skins.h"
 #include "ui_mapext.h"
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "cache/extraction.h"
-#include "forms/skinnedform.h"
+#include "kit/frame/skinnedform.h"
 
 namespace Ui {
 class mapextContent;

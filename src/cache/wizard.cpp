@@ -1,7 +1,7 @@
 #include "cache/wizard.h"
 
 #include "core/routines.h"
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 

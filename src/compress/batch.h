@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "core/listitems.h"
 #include "core/program.h"
+#include "platform/outside/listitems.h"
 
 namespace tessaro {
 

@@ -1,9 +1,9 @@
 #include "compress/batchform.h"
 
-#include "forms/columns.h"
-#include "forms/handler.h"
-#include "forms/placement.h"
-#include "forms/text.h"
+#include "core/centerform.h"
+#include "kit/controls/columns.h"
+#include "kit/forms/handler.h"
+#include "kit/look/text.h"
 #include "shell/Skins.h"
 
 namespace tessaro::forms {

@@ -6,8 +6,8 @@
 #include <initializer_list>
 
 #include "compress/batch.h"
-#include "forms/listview.h"
-#include "forms/skinnedform.h"
+#include "kit/controls/listview.h"
+#include "kit/frame/skinnedform.h"
 
 namespace tessaro::forms {
 

@@ -2,7 +2,7 @@
 
 #include "core/VORNX.h"
 #include "core/routines.h"
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 

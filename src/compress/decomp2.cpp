@@ -1,7 +1,7 @@
 #include "compress/decomp2.h"
 
 #include "compress/decomp.h"
-#include "forms/handler.h"
+#include "kit/forms/handler.h"
 #include "ui_decomp2.h"
 
 namespace tessaro::forms {

@@ -5,7 +5,7 @@
 
 #include "compress/batch.h"
 #include "compress/vornxshell.h"
-#include "platform/int16.h"
+#include "platform/runtime/int16.h"
 
 namespace tessaro {
 

@@ -1,9 +1,9 @@
 #include "compress/dropform.h"
 
-#include "compress/filedrop.h"
-#include "forms/columns.h"
-#include "forms/handler.h"
-#include "forms/placement.h"
+#include "core/centerform.h"
+#include "kit/controls/columns.h"
+#include "kit/controls/filedrop.h"
+#include "kit/forms/handler.h"
 #include "shell/Skins.h"
 
 namespace tessaro::forms {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "compress/droplist.h"
-#include "forms/listview.h"
-#include "forms/skinnedform.h"
+#include "kit/controls/listview.h"
+#include "kit/frame/skinnedform.h"
 
 namespace tessaro::forms {
 

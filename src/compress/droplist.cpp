@@ -1,8 +1,8 @@
 #include "compress/droplist.h"
 
 #include "core/VORNX.h"
-#include "platform/runtimeerror.h"
-#include "platform/utf8.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/utf8.h"
 
 namespace tessaro {
 namespace {

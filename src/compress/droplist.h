@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/listitems.h"
 #include "core/program.h"
+#include "platform/outside/listitems.h"
 
 namespace tessaro {
 

@@ -3,8 +3,8 @@
 #include <QMainWindow>
 #include <memory>
 
-#include "core/startup.h"
-#include "forms/form.h"
+#include "core/mainwindow.h"
+#include "kit/forms/form.h"
 
 namespace Ui {
 class MainFrm;

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/listitems.h"
 #include "core/program.h"
+#include "platform/outside/listitems.h"
 
 namespace tessaro {
 

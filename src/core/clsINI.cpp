@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/utf8.h"
+#include "platform/text/utf8.h"
 
 namespace tessaro {
 namespace {

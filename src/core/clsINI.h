@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/filetable.h"
-#include "platform/int16.h"
-#include "platform/profile.h"
+#include "platform/files/filetable.h"
+#include "platform/profile/profile.h"
+#include "platform/runtime/int16.h"
 
 namespace tessaro {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/values.h"
+#include "platform/text/numbers.h"
 
 namespace tessaro {
 namespace {

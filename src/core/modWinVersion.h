@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/systemversion.h"
+#include "platform/outside/systemversion.h"
 
 namespace tessaro {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/values.h"
+#include "platform/text/numbers.h"
 
 namespace tessaro {
 

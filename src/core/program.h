@@ -3,13 +3,13 @@
 #include <string>
 
 #include "core/clsINI.h"
-#include "platform/dialogs.h"
-#include "platform/events.h"
-#include "platform/files.h"
-#include "platform/filetable.h"
-#include "platform/processes.h"
-#include "platform/profile.h"
-#include "platform/sounds.h"
+#include "platform/files/files.h"
+#include "platform/files/filetable.h"
+#include "platform/outside/dialogs.h"
+#include "platform/outside/events.h"
+#include "platform/outside/processes.h"
+#include "platform/outside/sounds.h"
+#include "platform/profile/profile.h"
 
 namespace tessaro {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 

@@ -2,11 +2,11 @@
 
 #include <QPainter>
 
-#include "core/startup.h"
-#include "forms/forms.h"
-#include "forms/handler.h"
-#include "forms/pictures.h"
-#include "forms/text.h"
+#include "core/mainwindow.h"
+#include "kit/forms/forms.h"
+#include "kit/forms/handler.h"
+#include "kit/look/pictures.h"
+#include "kit/look/text.h"
 #include "ui_splash.h"
 
 namespace tessaro::forms {

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "core/clsINI.h"
-#include "forms/form.h"
+#include "kit/forms/form.h"
 
 namespace Ui {
 class splash;

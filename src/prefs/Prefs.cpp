@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "core/MainFrm.h"
-#include "forms/handler.h"
-#include "forms/placement.h"
-#include "forms/text.h"
+#include "core/centerform.h"
+#include "kit/forms/handler.h"
+#include "kit/look/text.h"
 #include "shell/Skins.h"
 #include "ui_Prefs.h"
 

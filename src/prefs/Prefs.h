@@ -3,8 +3,8 @@
 #include <QCheckBox>
 #include <memory>
 
-#include "forms/skinnedform.h"
-#include "prefs/preferences.h"
+#include "kit/frame/skinnedform.h"
+#include "prefs/prefsrules.h"
 
 namespace Ui {
 class PrefsContent;

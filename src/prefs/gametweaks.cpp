@@ -1,9 +1,9 @@
 #include "prefs/gametweaks.h"
 
 #include "core/routines.h"
-#include "platform/runtimeerror.h"
-#include "platform/utf8.h"
-#include "platform/values.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/numbers.h"
+#include "platform/text/utf8.h"
 
 namespace tessaro {
 namespace {

@@ -1,7 +1,7 @@
 #include <string>
 
 #include "core/routines.h"
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 #include "prefs/gametweaks.h"
 
 namespace tessaro {

@@ -4,11 +4,11 @@
 #include <QPushButton>
 #include <vector>
 
-#include "forms/frame.h"
-#include "forms/style.h"
-#include "forms/twips.h"
-#include "platform/runtimeerror.h"
-#include "platform/values.h"
+#include "kit/frame/placement.h"
+#include "kit/look/style.h"
+#include "kit/look/twips.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/numbers.h"
 #include "shell/Skinz.h"
 
 namespace tessaro::forms {

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "forms/forms.h"
+#include "kit/forms/forms.h"
 
 namespace tessaro::forms {
 

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "forms/pictures.h"
+#include "kit/look/pictures.h"
 #include "ui_Skinz.h"
 
 namespace tessaro::forms {

@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <QPixmap>
 
-#include "forms/forms.h"
+#include "kit/forms/forms.h"
 
 namespace tessaro::forms {
 

@@ -4,8 +4,8 @@
 #include <QKeySequence>
 #include <QMenuBar>
 
-#include "forms/handler.h"
-#include "forms/text.h"
+#include "kit/forms/handler.h"
+#include "kit/look/text.h"
 #include "shell/menutable.h"
 
 namespace tessaro::forms {

@@ -7,10 +7,10 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "forms/drivelist.h"
-#include "forms/folderlist.h"
-#include "forms/listview.h"
-#include "forms/text.h"
+#include "kit/controls/drivelist.h"
+#include "kit/controls/folderlist.h"
+#include "kit/controls/listview.h"
+#include "kit/look/text.h"
 #include "support/forms/gameforms.h"
 
 namespace tessaro::test {

@@ -8,7 +8,7 @@
 #include <QUrl>
 #include <vector>
 
-#include "forms/text.h"
+#include "kit/look/text.h"
 #include "support/forms/formsfixture.h"
 
 namespace tessaro::test {

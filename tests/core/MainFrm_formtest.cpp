@@ -9,7 +9,7 @@
 
 #include "cache/mapext.h"
 #include "compress/comp.h"
-#include "forms/twips.h"
+#include "kit/look/twips.h"
 #include "prefs/Prefs.h"
 #include "support/forms/gameforms.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/values.h"
+#include "platform/text/numbers.h"
 #include "support/testprogram.h"
 
 namespace tessaro::test {

@@ -1,6 +1,6 @@
 #include <filesystem>
 
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 #include "prefs/preferencesfixture.h"
 
 namespace tessaro::test {

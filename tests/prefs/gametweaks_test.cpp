@@ -1,6 +1,6 @@
 #include "prefs/gametweaks.h"
 
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 #include "prefs/gamefixture.h"
 
 namespace tessaro::test {

@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "forms/handler.h"
-#include "forms/text.h"
+#include "kit/forms/handler.h"
+#include "kit/look/text.h"
 #include "prefs/Prefs.h"
 #include "prefs/gamefixture.h"
 #include "support/forms/formsfixture.h"

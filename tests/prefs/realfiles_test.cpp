@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "platform/encoding.h"
+#include "platform/text/encoding.h"
 #include "prefs/preferencesfixture.h"
 #include "tools/samplegame/inifiles.h"
 

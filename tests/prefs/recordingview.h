@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "prefs/preferences.h"
+#include "prefs/prefsrules.h"
 
 namespace tessaro::test {
 

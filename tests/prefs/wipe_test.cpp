@@ -2,7 +2,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 #include "prefs/gamefixture.h"
 #include "prefs/gametweaks.h"
 

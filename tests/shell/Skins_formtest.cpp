@@ -6,8 +6,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "forms/listview.h"
-#include "forms/skinnedform.h"
+#include "kit/controls/listview.h"
+#include "kit/frame/skinnedform.h"
 #include "shell/Skinz.h"
 #include "support/forms/formsfixture.h"
 

@@ -1,6 +1,6 @@
 #include "support/failinghost.h"
 
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro::test {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/host.h"
+#include "platform/files/host.h"
 
 namespace tessaro::test {
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <cmath>
 
-#include "platform/runtimeerror.h"
-#include "platform/utf8.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/utf8.h"
 
 namespace tessaro::test {
 namespace {

@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/events.h"
-#include "platform/processes.h"
-#include "platform/sounds.h"
+#include "platform/outside/events.h"
+#include "platform/outside/processes.h"
+#include "platform/outside/sounds.h"
 
 namespace tessaro::test {
 

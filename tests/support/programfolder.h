@@ -11,7 +11,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/processes.h"
+#include "platform/outside/processes.h"
 #include "support/testworld.h"
 
 namespace tessaro::test {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/dialogs.h"
+#include "platform/outside/dialogs.h"
 
 namespace tessaro::test {
 

@@ -5,11 +5,11 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/files.h"
-#include "platform/filetable.h"
-#include "platform/paths.h"
-#include "platform/profile.h"
-#include "platform/runtimeerror.h"
+#include "platform/files/files.h"
+#include "platform/files/filetable.h"
+#include "platform/files/paths.h"
+#include "platform/profile/profile.h"
+#include "platform/runtime/runtimeerror.h"
 #include "support/failinghost.h"
 
 namespace tessaro::test {

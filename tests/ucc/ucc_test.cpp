@@ -1,6 +1,6 @@
 // The stand-ins, started as the program starts the game's own.
 
-#include "platform/host.h"
+#include "platform/files/host.h"
 #include "support/programfolder.h"
 #include "tools/ucc/programs.h"
 #include "tools/ucc/uzfile.h"

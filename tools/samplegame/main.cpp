@@ -6,11 +6,11 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/drives.h"
-#include "platform/files.h"
-#include "platform/filetable.h"
-#include "platform/paths.h"
-#include "platform/profile.h"
+#include "platform/files/drives.h"
+#include "platform/files/files.h"
+#include "platform/files/filetable.h"
+#include "platform/files/paths.h"
+#include "platform/profile/profile.h"
 #include "tools/samplegame/samplegame.h"
 #include "tools/ucc/programs.h"
 

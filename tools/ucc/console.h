@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/encoding.h"
+#include "platform/text/encoding.h"
 
 namespace tessaro::ucc {
 

@@ -4,7 +4,7 @@
 #include <exception>
 #include <fstream>
 
-#include "platform/host.h"
+#include "platform/files/host.h"
 
 int main(int argc, char** argv) {
     try {

@@ -5,7 +5,7 @@
 #include <exception>
 #include <string_view>
 
-#include "platform/host.h"
+#include "platform/files/host.h"
 #include "tools/ucc/commandlets.h"
 
 int main(int argc, char** argv) {

@@ -12,8 +12,8 @@
 #include <functional>
 #include <vector>
 
+#include "app/application.h"
 #include "core/MainFrm.h"
-#include "forms/application.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/processes.h"
+#include "platform/outside/processes.h"
 
 namespace tessaro {
 

@@ -3,7 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 

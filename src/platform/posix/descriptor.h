@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/host.h"
+#include "platform/files/host.h"
 
 namespace tessaro {
 

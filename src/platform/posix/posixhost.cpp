@@ -3,10 +3,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/host.h"
+#include "platform/files/host.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/posixcopy.h"
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 

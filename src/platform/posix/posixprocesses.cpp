@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "platform/posix/descriptor.h"
-#include "platform/runtimeerror.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 

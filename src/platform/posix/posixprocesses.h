@@ -3,9 +3,9 @@
 #include <functional>
 #include <optional>
 
-#include "platform/commandline.h"
-#include "platform/paths.h"
+#include "platform/files/paths.h"
 #include "platform/posix/childprocess.h"
+#include "platform/posix/commandline.h"
 
 namespace tessaro {
 

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "platform/systemversion.h"
+#include "platform/outside/systemversion.h"
 
 namespace tessaro {
 

@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-#include "platform/drives.h"
+#include "platform/files/drives.h"
 
 namespace tessaro {
 

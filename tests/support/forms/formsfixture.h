@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "forms/forms.h"
+#include "kit/forms/forms.h"
 #include "support/testprogram.h"
 
 namespace tessaro::test {

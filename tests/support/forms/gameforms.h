@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core/MainFrm.h"
-#include "forms/handler.h"
+#include "kit/forms/handler.h"
 #include "support/forms/formsfixture.h"
 
 namespace tessaro::test {

@@ -6,7 +6,7 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
-#include "forms/style.h"
+#include "kit/look/style.h"
 
 namespace {
 

@@ -1,0 +1,35 @@
+#include "app/application.h"
+
+#include "core/MainFrm.h"
+#include "kit/forms/handler.h"
+#include "kit/look/style.h"
+
+namespace tessaro::forms {
+namespace {
+
+ProgramFile runningProgram(Host& host, const DriveMap& drives) {
+    const HostPath file = executablePath();
+    return {Paths(host, drives).toGame(file.parent_path()), file.stem().string()};
+}
+
+}  // namespace
+
+Application::Application(int& argc, char** argv)
+    : application_(argc, argv),
+      host_(makeHost()),
+      drives_(hostDrives()),
+      dialogs_(programEnd_, *host_, drives_),
+      events_(programEnd_),
+      processes_(makeProcesses(*host_, drives_, [this] { events_.repaint(); })),
+      program_(*host_, drives_, {dialogs_, sounds_, *processes_, events_},
+               runningProgram(*host_, drives_)),
+      forms_(program_, programEnd_) {
+    applyProgramStyle(application_);
+}
+
+int Application::run() {
+    guarded(forms_, [this] { forms_.show<MainFrm>(); });
+    return forms_.run();
+}
+
+}  // namespace tessaro::forms

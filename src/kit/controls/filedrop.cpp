@@ -1,0 +1,77 @@
+#include "kit/controls/filedrop.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QSysInfo>
+#include <QUrl>
+#include <algorithm>
+
+#include "kit/forms/handler.h"
+#include "kit/look/text.h"
+
+namespace tessaro::forms {
+namespace {
+
+bool holdsFiles(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+}
+
+/// X11's drags name the machine in the address, and so do some file managers. Qt would make the
+/// name of a share from it.
+QUrl withoutThisMachine(QUrl url) {
+    for (const QString& machine : {QStringLiteral("localhost"), QSysInfo::machineHostName()})
+        if (url.host().compare(machine, Qt::CaseInsensitive) == 0) url.setHost({});
+    return url;
+}
+
+/// Old names may hold bytes that are no UTF-8, which only the address itself still has.
+HostPath hostPathOf(const QUrl& url) {
+    const QString local = withoutThisMachine(url).toLocalFile();
+    if (!local.contains(QChar::ReplacementCharacter)) return hostPathFromQt(local);
+    const QByteArray bytes =
+        QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+    return HostPath(std::u8string(bytes.begin(), bytes.end()));
+}
+
+}  // namespace
+
+FileDrop::FileDrop(Forms& forms, QAbstractScrollArea& list, Handler handler)
+    : QObject(&list), forms_(forms), handler_(std::move(handler)) {
+    list.setAcceptDrops(true);
+    list.viewport()->installEventFilter(this);
+}
+
+bool FileDrop::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+            answer(static_cast<QDropEvent&>(*event));
+            return true;
+        case QEvent::Drop: {
+            auto& drop = static_cast<QDropEvent&>(*event);
+            answer(drop);
+            if (drop.isAccepted()) take(*drop.mimeData());
+            return true;
+        }
+        default:
+            return false;
+    }
+}
+
+/// Always as a copy: after a move the file manager could delete the files.
+void FileDrop::answer(QDropEvent& event) const {
+    const bool files = holdsFiles(*event.mimeData());
+    event.setDropAction(files ? Qt::CopyAction : Qt::IgnoreAction);
+    event.setAccepted(files);
+}
+
+void FileDrop::take(const QMimeData& data) {
+    std::vector<std::string> paths;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile()) paths.push_back(forms_.program().paths.toGame(hostPathOf(url)));
+    QMetaObject::invokeMethod(
+        this, [this, paths] { guarded(forms_, [&] { handler_(paths); }); }, Qt::QueuedConnection);
+}
+
+}  // namespace tessaro::forms

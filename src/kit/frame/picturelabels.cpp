@@ -1,0 +1,23 @@
+#include "kit/frame/picturelabels.h"
+
+#include <QPainter>
+
+namespace tessaro::forms {
+
+void PlateLabel::paintEvent(QPaintEvent*) {
+    const QPixmap picture = pixmap(Qt::ReturnByValue);
+    if (picture.isNull()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const double cap = double(capWidth) * height() / pictureHeight;
+    // Sources are measured in the picture's own dots, which a dense screen has twice as many of.
+    const double from = capWidth * picture.devicePixelRatio();
+    const double middle = picture.width() - 2 * from;
+    painter.drawPixmap(QRectF(0, 0, cap, height()), picture, QRectF(0, 0, from, picture.height()));
+    painter.drawPixmap(QRectF(cap, 0, width() - 2 * cap, height()), picture,
+                       QRectF(from, 0, middle, picture.height()));
+    painter.drawPixmap(QRectF(width() - cap, 0, cap, height()), picture,
+                       QRectF(from + middle, 0, from, picture.height()));
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,29 @@
+#include "kit/frame/placement.h"
+
+#include <QVariant>
+#include <algorithm>
+
+namespace tessaro::forms {
+namespace {
+
+constexpr char shiftProperty[] = "shift";
+
+}  // namespace
+
+void centreAcross(const QWidget& form, QWidget& control, int shift) {
+    control.setProperty(shiftProperty, shift);
+    control.move(form.width() / 2 - control.width() / 2 + shift, control.y());
+}
+
+void centreAcross(const QWidget& form, QWidget& control) {
+    centreAcross(form, control, control.property(shiftProperty).toInt());
+}
+
+QRect fittedInto(const QRect& screen, const QRect& window) {
+    const QSize size = window.size().boundedTo(screen.size());
+    const int left = std::clamp(window.left(), screen.left(), screen.right() + 1 - size.width());
+    const int top = std::clamp(window.top(), screen.top(), screen.bottom() + 1 - size.height());
+    return {QPoint(left, top), size};
+}
+
+}  // namespace tessaro::forms

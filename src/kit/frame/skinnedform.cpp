@@ -1,0 +1,192 @@
+#include "kit/frame/skinnedform.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "kit/forms/handler.h"
+#include "kit/frame/drag.h"
+#include "kit/frame/picturelabels.h"
+#include "kit/frame/placement.h"
+#include "kit/look/style.h"
+#include "kit/look/text.h"
+
+namespace tessaro::forms {
+namespace {
+
+constexpr int border = 1;  // a line, so that the form stands out from any desktop
+constexpr int sideWidth = 12;
+constexpr int bottomHeight = 14;
+constexpr int bandHeight = 32;
+constexpr double plateShare = 0.6;  // of the form's width
+constexpr int contentMargin = 6;
+
+template <class Label>
+QLabel* makeLabel(QWidget* parent, const char* name) {
+    auto* label = new Label(parent);
+    label->setObjectName(QLatin1String(name));
+    return label;
+}
+
+QPushButton* makeButton(QWidget* parent, const char* name, const char* caption, const char* help) {
+    auto* button = new QPushButton(QLatin1String(caption), parent);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(QLatin1String(help));
+    button->setAutoDefault(false);
+    return button;
+}
+
+/// The last control in tab order that lies in `container`, or the container.
+QWidget* lastInTabOrder(QWidget* container) {
+    QWidget* last = container;
+    for (QWidget* widget = container->nextInFocusChain(); widget != container;
+         widget = widget->nextInFocusChain())
+        if (container->isAncestorOf(widget)) last = widget;
+    return last;
+}
+
+bool takesTab(const QWidget& widget) {
+    return widget.isEnabled() && widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+}  // namespace
+
+SkinnedForm::SkinnedForm(Forms& forms, const FrameOptions& options)
+    : FormWindow<QDialog>(forms), strut_(new QWidget(this)), content_(new QWidget(this)) {
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    setWindowTitle(toQt(options.caption));
+    makeFrame(options);
+    makeButtons(options.secondButton);
+    layOut();
+    if (options.dragBy != DragBy::Nothing) addDragHandle(*timg);
+    if (options.dragBy == DragBy::PlateAndTitle) addDragHandle(*Title);
+    on(CommandX, &QPushButton::clicked, forms, [this] { closePressed(); });
+}
+
+void SkinnedForm::makeFrame(const FrameOptions& options) {
+    timg = makeLabel<PlateLabel>(this, "timg");
+    bimg = makeLabel<BarLabel>(this, "bimg");
+    leftimg = makeLabel<BarLabel>(this, "leftimg");
+    rightimg = makeLabel<BarLabel>(this, "rightimg");
+    Title = makeLabel<QLabel>(this, "Title");
+    Title->setTextFormat(Qt::PlainText);
+    Title->setText(toQt(options.title));
+    bimg->setFixedHeight(bottomHeight);
+    leftimg->setFixedWidth(sideWidth);
+    rightimg->setFixedWidth(sideWidth);
+}
+
+void SkinnedForm::makeButtons(bool secondButton) {
+    CommandX = makeButton(this, "CommandX", "X", "Close");
+    CommandX->setToolTip(CommandX->accessibleName());
+    if (!secondButton) return;
+    CommandQ = makeButton(this, "CommandQ", "", "No function");
+}
+
+void SkinnedForm::layOut() {
+    auto* top = new QHBoxLayout;
+    top->setContentsMargins(0, 0, 5, 0);
+    top->setSpacing(3);
+    top->addWidget(strut_, 1);
+    if (CommandQ != nullptr) top->addWidget(CommandQ);
+    top->addWidget(CommandX);
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(leftimg);
+    middle->addWidget(content_, 1);
+    middle->addWidget(rightimg);
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(border, border, border, border);
+    all->setSpacing(0);
+    all->addLayout(top);
+    all->addLayout(middle, 1);
+    all->addWidget(bimg);
+}
+
+void SkinnedForm::completeContent() {
+    if (content_->layout() != nullptr)
+        content_->layout()->setContentsMargins(contentMargin, contentMargin, contentMargin,
+                                               contentMargin);
+    dressFields(*content_);
+    QWidget* last = lastInTabOrder(content_);
+    if (CommandQ != nullptr) {
+        setTabOrder(last, CommandQ);
+        last = CommandQ;
+    }
+    setTabOrder(last, CommandX);
+    fitFrame();
+    const QSize designed = content_->size().expandedTo(content_->sizeHint());
+    resize(designed.width() + 2 * (border + sideWidth),
+           designed.height() + 2 * border + strut_->minimumHeight() + bottomHeight);
+}
+
+void SkinnedForm::addDragHandle(QWidget& handle) {
+    handle.installEventFilter(this);
+}
+
+bool SkinnedForm::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) DragForm(*this);
+    return FormWindow<QDialog>::eventFilter(watched, event);
+}
+
+void SkinnedForm::closePressed() {
+    forms().close(*this);
+}
+
+void SkinnedForm::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Shadow));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void SkinnedForm::resizeEvent(QResizeEvent* event) {
+    FormWindow<QDialog>::resizeEvent(event);
+    placeTitle();
+}
+
+void SkinnedForm::changeEvent(QEvent* event) {
+    FormWindow<QDialog>::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fitFrame();
+}
+
+void SkinnedForm::showEvent(QShowEvent* event) {
+    FormWindow<QDialog>::showEvent(event);
+    fitFrame();
+    setGeometry(fittedInto(screen()->availableGeometry(), geometry()));
+    if (focusWidget() == nullptr) focusFirstControl();
+}
+
+/// Left alone, Qt would give the focus to the close button, which was made first.
+void SkinnedForm::focusFirstControl() {
+    QWidget* widget = content_->nextInFocusChain();
+    while (widget != content_ && !(content_->isAncestorOf(widget) && takesTab(*widget)))
+        widget = widget->nextInFocusChain();
+    if (widget != content_) widget->setFocus();
+}
+
+/// The band and its buttons grow with the font.
+void SkinnedForm::fitFrame() {
+    const int letter = fontMetrics().height();
+    const int buttonSize = letter + 7;
+    for (QPushButton* button : {CommandX, CommandQ})
+        if (button != nullptr) button->setFixedSize(buttonSize, buttonSize);
+    strut_->setFixedHeight(std::max(bandHeight, letter + 14));
+    Title->adjustSize();
+    const int buttonsWidth = CommandQ != nullptr ? 2 * buttonSize + 10 : buttonSize + 7;
+    const int caps = 2 * PlateLabel::capWidth * strut_->minimumHeight() / PlateLabel::pictureHeight;
+    timg->setMinimumWidth(Title->width() + caps);
+    strut_->setMinimumWidth(timg->minimumWidth() + buttonsWidth);
+    placeTitle();
+}
+
+void SkinnedForm::placeTitle() {
+    const int plateWidth = std::max(int(width() * plateShare), timg->minimumWidth());
+    timg->setGeometry(timg->x(), border, plateWidth, strut_->minimumHeight());
+    Title->move(Title->x(), border + (strut_->minimumHeight() - Title->height()) / 2);
+    centreAcross(*this, *timg);
+    centreAcross(*this, *Title);
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <string>
+
+#include "kit/forms/form.h"
+#include "kit/forms/forms.h"
+
+namespace tessaro::forms {
+
+/// What of a form's frame moves the form.
+enum class DragBy { PlateAndTitle, Plate, Nothing };
+
+/// How a form's frame differs from that of the others.
+struct FrameOptions {
+    std::string caption;        ///< the window's name, seen in the task bar
+    std::string title;          ///< text of `Title`
+    bool secondButton = false;  ///< `CommandQ`, blank: a form that uses it says what it does
+    DragBy dragBy = DragBy::PlateAndTitle;
+};
+
+/// A borderless tool form. It draws its own frame around the content, which the form's Designer
+/// file defines:
+///
+///     +--------------------------------------+
+///     |        < timg   Title   >    [Q] [X] |
+///     | leftimg |     content     | rightimg |
+///     |                 bimg                 |
+///     +--------------------------------------+
+///
+/// The controls bear these names (and `CommandQ`, `CommandX`), by which skins find them.
+class SkinnedForm : public FormWindow<QDialog> {
+    Q_OBJECT
+  public:
+    SkinnedForm(Forms& forms, const FrameOptions& options);
+
+    /// Fills the form. To be called once, before Load.
+    template <class Ui>
+    void setUpContent(Ui& ui) {
+        ui.setupUi(content_);
+        completeContent();
+    }
+
+    QLabel* timg;
+    QLabel* bimg;
+    QLabel* leftimg;
+    QLabel* rightimg;
+    QLabel* Title;
+    QPushButton* CommandX;
+    QPushButton* CommandQ = nullptr;  ///< only if asked for
+
+    /// Lets the form be moved by one more control.
+    void addDragHandle(QWidget& handle);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    /// What a click on `CommandX` does: closes the form.
+    virtual void closePressed();
+
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void makeFrame(const FrameOptions& options);
+    void makeButtons(bool secondButton);
+    void layOut();
+    void completeContent();
+    void fitFrame();
+    void placeTitle();
+    void focusFirstControl();
+
+    QWidget* strut_;  // keeps room for the plate, beside the buttons
+    QWidget* content_;
+};
+
+}  // namespace tessaro::forms

@@ -1,0 +1,29 @@
+#include "kit/look/pictures.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QImageReader>
+
+#include "kit/look/resources.h"
+
+namespace tessaro::forms {
+namespace {
+
+QPixmap readPng(const QString& file) {
+    QImageReader reader(file, QByteArrayLiteral("png"));
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
+}
+
+}  // namespace
+
+QPixmap programPicture(const QString& file) {
+    loadResources();
+    const QString finer = QString(file).replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
+    if (qGuiApp->devicePixelRatio() <= 1 || !QFile::exists(finer)) return readPng(file);
+    QPixmap picture = readPng(finer);
+    picture.setDevicePixelRatio(2);
+    return picture;
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,116 @@
+#include "kit/look/style.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QIcon>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+#include "kit/look/pictures.h"
+#include "kit/look/programstyle.h"
+
+namespace tessaro::forms {
+namespace {
+
+/// A colour, the same in both states of a window, and the one of disabled controls.
+struct RoleColour {
+    QPalette::ColorRole role;
+    QColor enabled;
+    QColor disabled;
+};
+
+void setColours(QPalette& palette, std::initializer_list<RoleColour> colours) {
+    for (const RoleColour& colour : colours) {
+        palette.setColor(QPalette::Active, colour.role, colour.enabled);
+        palette.setColor(QPalette::Inactive, colour.role, colour.enabled);
+        palette.setColor(QPalette::Disabled, colour.role, colour.disabled);
+    }
+}
+
+const QColor ground(239, 239, 239);
+const QColor letters(0, 0, 0);
+const QColor paleLetters(120, 120, 120);
+const QColor fieldGround(64, 64, 64);
+const QColor fieldLetters(255, 255, 255);
+const QColor paleFieldLetters(214, 214, 214);
+
+// The sizes that window managers show. Each one more would have to be unpacked and sent to the
+// screen before the first window is there; larger ones are shown by launchers only.
+QIcon programIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48})
+        icon.addPixmap(programPicture(QStringLiteral(":/icons/tessaro-%1.png").arg(size)));
+    return icon;
+}
+
+bool isField(const QWidget& widget) {
+    if (qobject_cast<const QHeaderView*>(&widget) != nullptr) return false;
+    return qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr ||
+           qobject_cast<const QTextEdit*>(&widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
+}
+
+}  // namespace
+
+QPalette programPalette() {
+    QPalette palette;
+    const QColor white(255, 255, 255);
+    setColours(palette, {{QPalette::Window, ground, ground},
+                         {QPalette::WindowText, letters, paleLetters},
+                         {QPalette::Base, white, ground},
+                         {QPalette::AlternateBase, QColor(247, 247, 247), ground},
+                         {QPalette::Text, letters, paleLetters},
+                         {QPalette::PlaceholderText, paleLetters, paleLetters},
+                         {QPalette::Button, ground, ground},
+                         {QPalette::ButtonText, letters, paleLetters},
+                         {QPalette::BrightText, white, white},
+                         {QPalette::ToolTipBase, QColor(255, 255, 220), QColor(255, 255, 220)},
+                         {QPalette::ToolTipText, letters, letters},
+                         {QPalette::Highlight, QColor(48, 100, 170), QColor(145, 145, 145)},
+                         {QPalette::HighlightedText, white, white},
+                         {QPalette::Link, QColor(0, 0, 200), paleLetters},
+                         {QPalette::LinkVisited, QColor(110, 0, 140), paleLetters},
+                         {QPalette::Light, white, white},
+                         {QPalette::Midlight, QColor(247, 247, 247), QColor(247, 247, 247)},
+                         {QPalette::Mid, QColor(184, 184, 184), QColor(184, 184, 184)},
+                         {QPalette::Dark, QColor(159, 159, 159), QColor(190, 190, 190)},
+                         {QPalette::Shadow, QColor(118, 118, 118), QColor(177, 177, 177)}});
+    return palette;
+}
+
+void applyProgramStyle(QApplication& application) {
+    QCoreApplication::setApplicationName(QStringLiteral("tessaro"));
+    // No display name: Qt would add it to the title of every box.
+    QGuiApplication::setDesktopFileName(QStringLiteral("tessaro"));
+    // The last form to be unloaded ends the program, not the last window to be hidden.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(new ProgramStyle);
+    QApplication::setPalette(programPalette());
+    application.setWindowIcon(programIcon());
+}
+
+void setFieldGround(QWidget& field, const QColor& colour) {
+    QPalette palette = field.palette();
+    setColours(palette, {{QPalette::Base, colour, colour},
+                         {QPalette::AlternateBase, colour, colour},
+                         {QPalette::Text, fieldLetters, paleFieldLetters},
+                         {QPalette::PlaceholderText, paleFieldLetters, paleFieldLetters},
+                         {QPalette::Highlight, QColor(224, 224, 224), QColor(190, 190, 190)},
+                         {QPalette::HighlightedText, letters, letters}});
+    // A list that drops down is drawn as a button.
+    if (qobject_cast<QComboBox*>(&field) != nullptr)
+        setColours(palette, {{QPalette::Button, colour, colour},
+                             {QPalette::ButtonText, fieldLetters, paleFieldLetters}});
+    field.setPalette(palette);
+}
+
+void dressFields(QWidget& form) {
+    for (QWidget* widget : form.findChildren<QWidget*>())
+        if (isField(*widget)) setFieldGround(*widget, fieldGround);
+}
+
+}  // namespace tessaro::forms

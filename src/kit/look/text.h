@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "platform/files/host.h"
+
+namespace tessaro::forms {
+
+/// The program's texts are UTF-8, Qt's are not; these are the two ways across.
+inline QString toQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline std::string fromQt(const QString& text) {
+    return text.toStdString();
+}
+
+inline HostPath hostPathFromQt(const QString& path) {
+    const std::string bytes = fromQt(path);
+    return HostPath(std::u8string(bytes.begin(), bytes.end()));
+}
+
+}  // namespace tessaro::forms

@@ -1,0 +1,117 @@
+#include "kit/outside/qtdialogs.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+#include "kit/look/text.h"
+
+namespace tessaro::forms {
+namespace {
+
+/// What a set of buttons is made of. Enter presses the first button, Esc the last resort.
+struct ButtonSet {
+    QMessageBox::StandardButtons all;
+    QMessageBox::StandardButton first;
+    QMessageBox::StandardButton escape;
+};
+
+ButtonSet buttonSet(Buttons buttons) {
+    using Box = QMessageBox;
+    switch (buttons) {
+        case Buttons::OkCancel:
+            return {Box::Ok | Box::Cancel, Box::Ok, Box::Cancel};
+        case Buttons::YesNo:
+            return {Box::Yes | Box::No, Box::Yes, Box::No};
+        case Buttons::YesNoCancel:
+            return {Box::Yes | Box::No | Box::Cancel, Box::Yes, Box::Cancel};
+        case Buttons::Ok:
+            break;
+    }
+    return {Box::Ok, Box::Ok, Box::Ok};
+}
+
+QMessageBox::Icon boxIcon(Icon icon) {
+    switch (icon) {
+        case Icon::Stop:
+            return QMessageBox::Critical;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+Answer answerOf(int button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::Ok;
+    }
+}
+
+/// The window that the question belongs to.
+QWidget* owner() {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+void showPlainText(const QWidget& dialog) {
+    for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+}
+
+}  // namespace
+
+Answer QtDialogs::message(const Message& message) {
+    QMessageBox box(owner());
+    const ButtonSet buttons = buttonSet(message.buttons);
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setWindowTitle(toQt(message.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(toQt(message.text));
+    box.setIcon(boxIcon(message.icon));
+    box.setStandardButtons(buttons.all);
+    box.setDefaultButton(buttons.first);
+    box.setEscapeButton(buttons.escape);
+    const int button = box.exec();
+    end_.throwIfEnded();
+    return answerOf(button);
+}
+
+std::string QtDialogs::input(const std::string& prompt, const std::string& title,
+                             const std::string& preset) {
+    QInputDialog box(owner());
+    box.setObjectName(QStringLiteral("inputBox"));
+    box.setWindowTitle(toQt(title));
+    box.setLabelText(toQt(prompt));
+    box.setTextValue(toQt(preset));
+    showPlainText(box);
+    const bool accepted = box.exec() == QDialog::Accepted;
+    end_.throwIfEnded();
+    return accepted ? fromQt(box.textValue()) : std::string();
+}
+
+std::string QtDialogs::pickFolder(const std::string& prompt) {
+    QFileDialog box(owner(), toQt(prompt));
+    box.setObjectName(QStringLiteral("folderPicker"));
+    box.setOption(QFileDialog::DontUseNativeDialog);
+    box.setFileMode(QFileDialog::Directory);
+    box.setOption(QFileDialog::ShowDirsOnly);
+    const bool accepted = box.exec() == QDialog::Accepted;
+    end_.throwIfEnded();
+    if (!accepted || box.selectedFiles().isEmpty()) return {};
+    return paths_.toGame(hostPathFromQt(box.selectedFiles().constFirst()));
+}
+
+}  // namespace tessaro::forms

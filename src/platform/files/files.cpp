@@ -1,0 +1,186 @@
+#include "platform/files/files.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/files/standins.h"
+#include "platform/files/wholefile.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/utf8.h"
+#include "platform/text/wildcard.h"
+
+namespace tessaro {
+
+namespace {
+
+constexpr std::string_view everything = "*.*";
+
+// Where the last part of a path begins.
+std::size_t lastPart(std::string_view path) {
+    std::size_t start = path.size();
+    while (start > 0 && path[start - 1] != '\\' && path[start - 1] != '/' &&
+           path[start - 1] != ':') {
+        --start;
+    }
+    return start;
+}
+
+bool isWanted(const std::optional<HostStatus>& status, int wanted) {
+    if (!status) return false;  // a link that leads nowhere, or a name gone since
+    const int has = (status->folder ? attributes::Directory : 0) |
+                    (status->hidden ? attributes::Hidden : 0) |
+                    (status->system ? attributes::System : 0);
+    return (has & ~wanted) == 0;
+}
+
+void sortNames(std::vector<std::string>& names) {
+    std::vector<std::pair<std::string, std::string>> keyed;
+    keyed.reserve(names.size());
+    for (std::string& name : names) {
+        std::string key = lowerCase(name);
+        keyed.emplace_back(std::move(key), std::move(name));
+    }
+    std::sort(keyed.begin(), keyed.end());
+    std::transform(keyed.begin(), keyed.end(), names.begin(),
+                   [](auto& each) { return std::move(each.second); });
+}
+
+bool isFolder(Host& host, const HostPath& path) {
+    const auto status = host.status(path);
+    return status && status->folder;
+}
+
+// A file that is to be read. Raises 53 if it is not there, or 76 if its folder is not.
+HostPath existing(Host& host, const HostPath& file) {
+    if (host.status(file)) return file;
+    const bool lost = !isFolder(host, file.parent_path());
+    throw RunTimeError(lost ? errors::PathNotFound : errors::FileNotFound, file.string());
+}
+
+// A folder as the run-time library lists it: with itself and the one above first.
+std::vector<std::string> dotsFor(std::string_view pattern, bool root, int wanted) {
+    std::vector<std::string> names;
+    if (root || (wanted & attributes::Directory) == 0) return names;
+    for (const char* dots : {".", ".."}) {
+        if (matchesWildcard(pattern, dots)) names.emplace_back(dots);
+    }
+    return names;
+}
+
+void deleteFile(Host& host, const HostPath& file) {
+    const auto status = host.status(file);
+    if (status && status->readOnly) throw RunTimeError(errors::PathFileAccess, file.string());
+    host.removeFile(file);
+}
+
+}  // namespace
+
+std::vector<std::string> Files::list(std::string_view pattern, int attributes) {
+    const std::size_t name = lastPart(pattern);
+    if (name == pattern.size()) return listFolder(pattern, everything, attributes);
+    if (hasWildcard(pattern.substr(name))) {
+        return listFolder(pattern.substr(0, name), pattern.substr(name), attributes);
+    }
+    const auto path = paths_.find(pattern);
+    if (!path || !isWanted(host_.status(*path), attributes)) return {};
+    // A root has no name of its own to list.
+    if (paths_.absolute(pattern).ends_with('\\')) {
+        return listFolder(pattern, everything, attributes);
+    }
+    return {gameName(path->filename().string())};
+}
+
+std::vector<std::string> Files::listFolder(std::string_view folder, std::string_view pattern,
+                                           int attributes) {
+    const auto path = paths_.find(folder);
+    if (!path || !isFolder(host_, *path)) return {};
+    std::vector<std::string> names;
+    for (std::string& each : host_.list(*path)) {
+        std::string name = gameName(each);
+        if (!matchesWildcard(pattern, name)) continue;
+        if (isWanted(host_.status(*path / each), attributes)) names.push_back(std::move(name));
+    }
+    sortNames(names);
+    const bool root = paths_.absolute(folder).ends_with('\\');
+    const auto dots = dotsFor(pattern, root, attributes);
+    names.insert(names.begin(), dots.begin(), dots.end());
+    return names;
+}
+
+std::string Files::firstMatch(std::string_view pattern, int attributes) {
+    auto names = list(pattern, attributes);
+    return names.empty() ? std::string() : std::move(names.front());
+}
+
+std::uintmax_t Files::fileLength(std::string_view file) {
+    const auto path = paths_.find(file);
+    const auto status = path ? host_.status(*path) : std::nullopt;
+    if (!status) throw RunTimeError(errors::FileNotFound, std::string(file));
+    return status->folder ? 0 : status->size;
+}
+
+void Files::copyFile(std::string_view from, std::string_view to) {
+    const HostPath source = paths_.toHost(from);
+    const HostPath target = paths_.toHost(to);
+    const auto given = host_.status(source);
+    if (!given) throw RunTimeError(errors::FileNotFound, source.string());
+    if (given->folder) throw RunTimeError(errors::PathFileAccess, source.string());
+    const auto old = host_.status(target);
+    if (old && old->stamp.device == given->stamp.device && old->stamp.inode == given->stamp.inode) {
+        throw RunTimeError(errors::PermissionDenied, target.string());
+    }
+    replaceByCopy(host_, source, target);
+    paths_.forget(target.parent_path());
+}
+
+std::vector<std::string> Files::namesToDelete(std::string_view pattern) {
+    // What lists a folder's content must not delete it.
+    const bool named =
+        lastPart(pattern) < pattern.size() && !paths_.absolute(pattern).ends_with('\\');
+    return named ? list(pattern, attributes::Normal) : std::vector<std::string>();
+}
+
+void Files::deleteFiles(std::string_view pattern) {
+    const auto names = namesToDelete(pattern);
+    if (names.empty()) throw RunTimeError(errors::FileNotFound, std::string(pattern));
+    const HostPath folder = paths_.toHost(pattern.substr(0, lastPart(pattern)));
+    paths_.forget(folder);
+    for (const std::string& name : names) deleteFile(host_, folder / hostName(name));
+}
+
+void Files::deleteWhatGoes(std::string_view pattern) {
+    const HostPath folder = paths_.toHost(pattern.substr(0, lastPart(pattern)));
+    for (const std::string& name : namesToDelete(pattern)) {
+        attempt([&] { deleteFile(host_, folder / hostName(name)); });
+    }
+    paths_.forget(folder);
+}
+
+void Files::makeFolder(std::string_view folder) {
+    const HostPath path = paths_.toHost(folder);
+    if (host_.status(path)) throw RunTimeError(errors::PathFileAccess, path.string());
+    if (!isFolder(host_, path.parent_path())) {
+        throw RunTimeError(errors::PathNotFound, path.string());
+    }
+    host_.makeFolder(path);
+    paths_.forget(path.parent_path());
+}
+
+std::string Files::read(std::string_view file) {
+    return host_.read(existing(host_, paths_.toHost(file)));
+}
+
+void Files::replace(std::string_view file, std::string_view bytes) {
+    const HostPath path = paths_.toHost(file);
+    replaceFile(host_, path, bytes);
+    paths_.forget(path.parent_path());
+}
+
+void Files::touch(std::string_view file) {
+    const HostPath path = paths_.toHost(file);
+    requireReplaceable(host_, path);
+    host_.touch(path);
+    paths_.forget(path.parent_path());
+}
+
+}  // namespace tessaro

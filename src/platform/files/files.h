@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files/host.h"
+#include "platform/files/paths.h"
+
+namespace tessaro {
+
+/// Attributes of a directory listing. A listing gives files that have no other attribute than the
+/// ones asked for (read-only and archive never hide a file), and folders only if asked for.
+namespace attributes {
+inline constexpr int Normal = 0;
+inline constexpr int ReadOnly = 1;
+inline constexpr int Hidden = 2;
+inline constexpr int System = 4;
+inline constexpr int Directory = 16;
+inline constexpr int Archive = 32;
+}  // namespace attributes
+
+/// The file statements of the run-time library, on game paths. Each raises the numbers that the
+/// library raises: 53 file not found, 76 path not found, 75 path/file access error, 61 disk full.
+class Files {
+  public:
+    Files(Host& host, Paths& paths) : host_(host), paths_(paths) {}
+
+    /// Names that match a path whose last part may hold `*` and `?` (`*.*` matches every name), in
+    /// the order of their names. A path that ends in `\`, and an empty one (the current folder),
+    /// list the folder's content, with "." and ".." first if folders are asked for. A folder that
+    /// is not there lists nothing; a drive that is not there raises 68.
+    std::vector<std::string> list(std::string_view pattern, int attributes);
+    /// The first of `list`, or an empty text.
+    std::string firstMatch(std::string_view pattern, int attributes);
+
+    /// Bytes in a file; a folder measures 0. Raises 53.
+    std::uintmax_t fileLength(std::string_view file);
+    /// Copies over what is there. A copy that fails leaves what was there before and no fragment.
+    /// Raises 53 without a source, 76 without the target's folder, 75 for a folder on either side
+    /// or a read-only target, 70 if both are the same file.
+    void copyFile(std::string_view from, std::string_view to);
+    /// Deletes the files (never folders) that match. Raises 53 if none does; stops at the first
+    /// that cannot be deleted, with 75 for one that is read-only.
+    void deleteFiles(std::string_view pattern);
+    /// Deletes those of the files (never folders) that match and can be deleted; there may be none.
+    void deleteWhatGoes(std::string_view pattern);
+    /// Raises 75 if the name is taken, 76 if the folder above is not there.
+    void makeFolder(std::string_view folder);
+
+    std::string read(std::string_view file);
+    /// Replaces a file whole (see wholefile.h), or creates it.
+    void replace(std::string_view file, std::string_view bytes);
+    /// Opens for appending and closes. Creates an empty file, or changes nothing.
+    void touch(std::string_view file);
+
+    Host& host() { return host_; }
+    Paths& paths() { return paths_; }
+
+  private:
+    std::vector<std::string> namesToDelete(std::string_view pattern);
+    std::vector<std::string> listFolder(std::string_view folder, std::string_view pattern,
+                                        int attributes);
+
+    Host& host_;
+    Paths& paths_;
+};
+
+}  // namespace tessaro

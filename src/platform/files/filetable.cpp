@@ -1,0 +1,96 @@
+#include "platform/files/filetable.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/files/wholefile.h"
+#include "platform/runtime/runtimeerror.h"
+
+namespace tessaro {
+
+namespace {
+
+constexpr int firstNumber = 1;
+constexpr int lastNumber = 511;
+constexpr std::string_view lineEnd = "\r\n";
+
+}  // namespace
+
+void FileTable::openInput(int number, std::string_view file) {
+    requireFree(number);
+    OpenFile opening{Mode::Input, files_.paths().absolute(file), {}, 0, {}};
+    const std::string bytes = files_.read(opening.path);
+    opening.text = decodeText(bytes, detectEncoding(bytes));
+    open_.emplace(number, std::move(opening));
+}
+
+void FileTable::openOutput(int number, std::string_view file) {
+    requireFree(number);
+    OpenFile opening{Mode::Output, files_.paths().absolute(file), {}, 0, {}};
+    const HostPath path = files_.paths().toHost(opening.path);
+    requireReplaceable(files_.host(), path);
+    if (files_.host().status(path)) opening.encoding = detectEncoding(files_.read(opening.path));
+    open_.emplace(number, std::move(opening));
+}
+
+void FileTable::openAppend(int number, std::string_view file) {
+    requireFree(number);
+    OpenFile opening{Mode::Append, files_.paths().absolute(file), {}, 0, {}};
+    files_.touch(opening.path);
+    open_.emplace(number, std::move(opening));
+}
+
+std::string FileTable::lineInput(int number) {
+    OpenFile& file = opened(number, true);
+    if (file.position == file.text.size()) throw RunTimeError(errors::InputPastEnd, file.path);
+    const std::size_t start = file.position;
+    const std::size_t end = std::min(file.text.find_first_of(lineEnd, start), file.text.size());
+    const bool pair = file.text.compare(end, lineEnd.size(), lineEnd) == 0;
+    file.position = std::min(end + (pair ? 2 : 1), file.text.size());
+    return file.text.substr(start, end - start);
+}
+
+bool FileTable::endOfFile(int number) {
+    const OpenFile& file = opened(number, true);
+    return file.position == file.text.size();
+}
+
+void FileTable::printLine(int number, std::string_view text) {
+    opened(number, false).text.append(text).append(lineEnd);
+}
+
+void FileTable::close(int number) {
+    // The number is free again even if saving fails.
+    if (const auto closing = open_.extract(number)) save(closing.mapped());
+}
+
+void FileTable::save(const OpenFile& file) {
+    if (file.mode == Mode::Output) {
+        files_.replace(file.path, encodeOrWiden(file.text, file.encoding));
+    } else if (file.mode == Mode::Append && !file.text.empty()) {
+        const std::string bytes = files_.read(file.path);
+        const Encoding encoding = detectEncoding(bytes);
+        files_.replace(file.path, encodeOrWiden(decodeText(bytes, encoding) + file.text, encoding));
+    }
+}
+
+int FileTable::freeNumber() const {
+    int number = firstNumber;
+    while (open_.contains(number)) ++number;
+    if (number > lastNumber) throw RunTimeError(errors::TooManyFiles);
+    return number;
+}
+
+FileTable::OpenFile& FileTable::opened(int number, bool forInput) {
+    const auto found = open_.find(number);
+    if (found == open_.end()) throw RunTimeError(errors::BadFileNumber);
+    if ((found->second.mode == Mode::Input) != forInput) throw RunTimeError(errors::BadFileMode);
+    return found->second;
+}
+
+void FileTable::requireFree(int number) const {
+    if (number < firstNumber || number > lastNumber) throw RunTimeError(errors::BadFileNumber);
+    if (open_.contains(number)) throw RunTimeError(errors::FileAlreadyOpen);
+}
+
+}  // namespace tessaro

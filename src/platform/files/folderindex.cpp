@@ -1,0 +1,134 @@
+#include "platform/files/folderindex.h"
+
+#include <algorithm>
+#include <bit>
+#include <utility>
+
+#include "platform/files/standins.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/utf8.h"
+
+namespace tessaro {
+
+namespace {
+
+constexpr std::int64_t second = 1'000'000'000;
+// Stamps come from a clock that ticks every 1 to 10 ms, on some file systems (FAT) every 2 s. A
+// folder that changes twice within a tick bears the same stamp both times.
+constexpr std::int64_t fineTick = second / 50;
+constexpr std::int64_t coarseTick = 2 * second + fineTick;
+
+// Holding a folder pays if it is asked often. It keeps a disk from being unplugged, too.
+constexpr std::size_t bigFolder = 1000;
+constexpr std::chrono::milliseconds pathTrust{20};
+
+std::int64_t tickOf(const FolderStamp& stamp) {
+    return stamp.changedNanoseconds % second == 0 ? coarseTick : fineTick;
+}
+
+std::int64_t nanosecondsNow() {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
+}
+
+char32_t foldedCharacter(std::string_view name, std::size_t& position) {
+    const auto byte = static_cast<unsigned char>(name[position]);
+    if (byte >= 0x80) return lowerCase(nextCharacter(name, position));
+    ++position;
+    return byte >= 'A' && byte <= 'Z' ? byte + ('a' - 'A') : byte;
+}
+
+std::uint32_t foldedHash(std::string_view name) {
+    std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
+    for (std::size_t position = 0; position < name.size();) {
+        hash = (hash ^ foldedCharacter(name, position)) * 0x100000001B3;
+    }
+    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+}
+
+}  // namespace
+
+void FolderIndex::Table::fill(std::vector<std::string> names) {
+    names_ = std::move(names);
+    slots_.assign(std::bit_ceil(2 * names_.size() + 1), {});
+    for (std::size_t index = 0; index < names_.size(); ++index) {
+        const std::uint32_t hash = foldedHash(names_[index]);
+        std::size_t at = hash & (slots_.size() - 1);
+        while (slots_[at].name != 0) at = (at + 1) & (slots_.size() - 1);
+        slots_[at] = {hash, static_cast<std::uint32_t>(index + 1)};
+    }
+}
+
+const std::string* FolderIndex::Table::find(std::string_view name) const {
+    const std::uint32_t hash = foldedHash(name);
+    const std::size_t mask = slots_.size() - 1;
+    const std::string* best = nullptr;
+    for (std::size_t at = hash & mask; slots_[at].name != 0; at = (at + 1) & mask) {
+        if (slots_[at].hash != hash) continue;
+        const std::string& each = names_[slots_[at].name - 1];
+        if (each == name) return &each;
+        if (sameName(each, name) && (!best || each < *best)) best = &each;
+    }
+    return best;
+}
+
+FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view name) {
+    Names* names = namesNow(folder);
+    if (!names) return {};
+    if (!names->listed) return {true, exact(folder, name)};
+    const std::string* spelled = names->table.find(name);
+    // Within a tick of the folder's last change a miss proves nothing, so the folder is read again.
+    // That ends with the tick: at worst a run of misses reads the folder over and over for so long.
+    if (!spelled && !names->settled) {
+        read(folder, names->stamp, *names);
+        spelled = names->table.find(name);
+    }
+    return {true, spelled ? std::optional<std::string>(*spelled) : std::nullopt};
+}
+
+// The index of a folder as it is now; null if there is no such folder.
+FolderIndex::Names* FolderIndex::namesNow(const HostPath& folder) {
+    const auto known = folders_.find(folder.native());
+    if (known != folders_.end() && unchanged(known->second)) return &known->second;
+    const auto status = host_.status(folder);
+    if (!status || !status->folder) {
+        forget(folder);
+        return nullptr;
+    }
+    Names& names = folders_[folder.native()];
+    if (names.stamp != status->stamp) read(folder, status->stamp, names);
+    names.foundAt = std::chrono::steady_clock::now();
+    return &names;
+}
+
+// A held folder's stamp tells of new names at once, but not that another folder took the place of
+// one above. So its path is gone again every now and then.
+bool FolderIndex::unchanged(const Names& names) {
+    return names.held && std::chrono::steady_clock::now() - names.foundAt < pathTrust &&
+           names.held->stamp() == names.stamp;
+}
+
+void FolderIndex::read(const HostPath& folder, FolderStamp stamp, Names& names) {
+    const std::int64_t now = nanosecondsNow();
+    if (names.stamp != stamp) names.stampSeenAt = now;
+    names.stamp = stamp;
+    // The second term serves network folders whose clock runs ahead of ours.
+    const std::int64_t age = std::max(now - stamp.changedNanoseconds, now - names.stampSeenAt);
+    names.settled = age >= tickOf(stamp);
+    std::vector<std::string> listing;
+    names.listed = attempt([&] { listing = host_.list(folder); });
+    for (std::string& each : listing) {
+        if (needsStandIn(each)) each = gameName(each);
+    }
+    const bool big = listing.size() >= bigFolder;
+    names.table.fill(std::move(listing));
+    names.held.reset();
+    if (big) attempt([&] { names.held = host_.hold(folder); });
+}
+
+std::optional<std::string> FolderIndex::exact(const HostPath& folder, std::string_view name) {
+    if (!host_.status(folder / hostName(name))) return std::nullopt;
+    return std::string(name);
+}
+
+}  // namespace tessaro

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/files/host.h"
+
+namespace tessaro {
+
+/// Finds names in host folders without regard to case. Keeps an index per folder, dropped when the
+/// folder changes, so that asking a folder of 30,000 files for many missing names stays cheap: a
+/// question costs one look at the folder's stamp, for a big folder mostly without its path.
+class FolderIndex {
+  public:
+    explicit FolderIndex(Host& host) : host_(host) {}
+
+    struct Finding {
+        bool folder = false;              ///< whether there is such a folder at all
+        std::optional<std::string> name;  ///< nothing if there is no such name in it
+    };
+    /// The name as it is spelled in the folder: the exact one if it is there, else one that differs
+    /// in case only (the first in byte order, if several do). A name found may have been deleted a
+    /// moment ago; who opens it finds out. A name not found is not there.
+    ///
+    /// A folder that may be searched but not listed knows exact names only.
+    Finding find(const HostPath& folder, std::string_view name);
+    void forget(const HostPath& folder) { folders_.erase(folder.native()); }
+
+  private:
+    // A hash table of its own kind: a miss, the common answer, reads one place in memory.
+    class Table {
+      public:
+        void fill(std::vector<std::string> names);
+        const std::string* find(std::string_view name) const;
+
+      private:
+        struct Slot {
+            std::uint32_t hash;
+            std::uint32_t name;  // counted from 1, 0 in a free slot
+        };
+        std::vector<std::string> names_;
+        std::vector<Slot> slots_;  // a power of two, so that a hash is cut to a slot by a mask
+    };
+    struct Names {
+        FolderStamp stamp;
+        std::int64_t stampSeenAt = 0;  // when a listing first met this stamp; nanoseconds
+        bool settled = false;          // a change from here on would show in the stamp
+        bool listed = false;
+        Table table;
+        std::unique_ptr<HeldFolder> held;               // of a big folder
+        std::chrono::steady_clock::time_point foundAt;  // by its path
+    };
+    Names* namesNow(const HostPath& folder);
+    static bool unchanged(const Names& names);
+    void read(const HostPath& folder, FolderStamp stamp, Names& names);
+    std::optional<std::string> exact(const HostPath& folder, std::string_view name);
+
+    Host& host_;
+    std::unordered_map<HostPath::string_type, Names> folders_;
+};
+
+}  // namespace tessaro

@@ -1,0 +1,204 @@
+#include "platform/files/paths.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "platform/files/standins.h"
+#include "platform/runtime/runtimeerror.h"
+
+namespace tessaro {
+
+namespace {
+
+constexpr std::size_t letterSize = 2;  // of "C:"
+
+bool isSeparator(char character) {
+    return character == '\\' || character == '/';
+}
+
+bool isLetter(char character) {
+    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
+}
+
+char upper(char letter) {
+    return static_cast<char>(letter & ~0x20);
+}
+
+bool namesDrive(std::string_view path) {
+    return path.size() >= letterSize && path[1] == ':' && isLetter(path[0]);
+}
+
+std::string rootText(char drive) {
+    return {drive, ':', '\\'};
+}
+
+bool isRoot(std::string_view full) {
+    return full.size() == letterSize + 1;
+}
+
+// "C:\a\b" is "b" in "C:\a", and "C:\a" is "a" in "C:\".
+struct Split {
+    explicit Split(std::string_view full) {
+        const std::size_t last = full.rfind('\\');
+        folder = full.substr(0, last == letterSize ? last + 1 : last);
+        name = full.substr(last + 1);
+    }
+    std::string_view folder;
+    std::string_view name;
+};
+
+// `full` is a path without a backslash at its end, a root being "C:".
+void append(std::string& full, std::string_view part) {
+    if (part.empty() || part == ".") return;
+    if (part != "..") {
+        full.append("\\").append(part);
+    } else if (full.size() > letterSize) {
+        full.resize(full.rfind('\\'));
+    }
+}
+
+void appendAll(std::string& full, std::string_view parts) {
+    while (!parts.empty()) {
+        std::size_t end = 0;
+        while (end < parts.size() && !isSeparator(parts[end])) ++end;
+        append(full, parts.substr(0, end));
+        parts.remove_prefix(std::min(end + 1, parts.size()));
+    }
+}
+
+bool liesIn(const HostPath& path, const HostPath& root) {
+    return std::mismatch(root.begin(), root.end(), path.begin(), path.end()).first == root.end();
+}
+
+std::optional<HostPath> spelledIn(const HostPath& folder, const FolderIndex::Finding& finding) {
+    if (!finding.name) return std::nullopt;
+    return folder / hostName(*finding.name);
+}
+
+}  // namespace
+
+Paths::Paths(Host& host, DriveMap drives) : host_(host), roots_(std::move(drives)), index_(host) {
+    for (const auto& [drive, root] : roots_) folders_[drive] = rootText(drive);
+    // A folder that was deleted under us, or lies on no drive, leaves us at a root.
+    const bool placed = attempt([&] {
+        const std::string start = toGame(host_.currentFolder());
+        drive_ = start.front();
+        folders_[drive_] = start;
+    });
+    if (!placed && !roots_.empty()) drive_ = roots_.begin()->first;
+}
+
+HostPath Paths::toHost(std::string_view path) {
+    return toHostFull(absolute(path));
+}
+
+HostPath Paths::toHostFull(std::string_view full) {
+    if (auto there = findFull(full)) return *std::move(there);
+    const auto [folder, name] = Split(full);
+    // The search that has just failed knows the folder, if there is one.
+    const auto known = found_.find(folder);
+    return (known != found_.end() ? known->second : toHostFull(folder)) / hostName(name);
+}
+
+std::optional<HostPath> Paths::findFull(std::string_view full) {
+    if (isRoot(full)) return rootOf(full.front());
+    const auto [folder, name] = Split(full);
+    if (const auto known = found_.find(folder); known != found_.end()) {
+        const auto finding = index_.find(known->second, name);
+        if (finding.folder) return spelledIn(known->second, finding);
+        found_.erase(known);  // deleted, or spelled otherwise by now
+    }
+    const auto above = findFull(folder);
+    if (!above) return std::nullopt;
+    const auto finding = index_.find(*above, name);
+    if (finding.folder) found_.emplace(folder, *above);
+    return spelledIn(*above, finding);
+}
+
+std::string Paths::toGame(const HostPath& path) const {
+    const HostPath whole = path.is_absolute() ? path : host_.currentFolder() / path;
+    HostPath normal = whole.lexically_normal();
+    char drive = longestRootOf(normal);
+    // Somebody's way to the drive may lead through a link, while roots have theirs resolved.
+    if (drive == 0 || roots_.at(drive) == roots_.at(drive).root_path()) {
+        std::error_code error;
+        HostPath canonical = std::filesystem::weakly_canonical(whole, error);
+        const char other = error ? drive : longestRootOf(canonical);
+        if (other != drive) {
+            drive = other;
+            normal = std::move(canonical);
+        }
+    }
+    const HostPath& root = rootOf(drive);
+    std::string full{drive, ':'};
+    auto part = normal.begin();
+    std::advance(part, std::distance(root.begin(), root.end()));
+    for (; part != normal.end(); ++part) append(full, gameName(part->string()));
+    return full.size() == letterSize ? rootText(drive) : full;
+}
+
+std::string Paths::absolute(std::string_view path) const {
+    char drive = drive_;
+    if (namesDrive(path)) {
+        drive = upper(path.front());
+        path.remove_prefix(letterSize);
+    }
+    std::string full{drive, ':'};
+    const auto current = folders_.find(drive);
+    if (current != folders_.end() && (path.empty() || !isSeparator(path.front()))) {
+        full = current->second;
+        if (isRoot(full)) full.pop_back();
+    }
+    full.reserve(full.size() + path.size() + 1);
+    appendAll(full, path);
+    return full.size() == letterSize ? rootText(drive) : full;
+}
+
+std::string Paths::currentFolder() const {
+    return absolute({});
+}
+
+void Paths::changeFolder(std::string_view path) {
+    const std::string full = absolute(path);
+    const HostPath folder = toHostFull(full);
+    const auto status = host_.status(folder);
+    if (!status || !status->folder) throw RunTimeError(errors::PathNotFound, full);
+    if (full.front() == drive_) host_.changeFolder(folder);
+    folders_[full.front()] = full;
+}
+
+void Paths::changeDrive(std::string_view drive) {
+    if (drive.empty() || !isLetter(drive.front())) throw RunTimeError(errors::InvalidProcedureCall);
+    const char letter = upper(drive.front());
+    const HostPath& root = rootOf(letter);
+    // A drive whose current folder is gone is entered at its root.
+    if (!attempt([&] { host_.changeFolder(toHostFull(folders_[letter])); })) {
+        host_.changeFolder(root);
+        folders_[letter] = rootText(letter);
+    }
+    drive_ = letter;
+}
+
+std::vector<char> Paths::drives() const {
+    std::vector<char> letters;
+    for (const auto& [drive, root] : roots_) letters.push_back(drive);
+    return letters;
+}
+
+const HostPath& Paths::rootOf(char drive) const {
+    const auto known = roots_.find(drive);
+    if (known == roots_.end()) throw RunTimeError(errors::DeviceUnavailable, {drive, ':'});
+    return known->second;
+}
+
+char Paths::longestRootOf(const HostPath& path) const {
+    char best = 0;
+    for (const auto& [drive, root] : roots_) {
+        const bool longer = best == 0 || root.native().size() > roots_.at(best).native().size();
+        if (longer && liesIn(path, root)) best = drive;
+    }
+    return best;
+}
+
+}  // namespace tessaro

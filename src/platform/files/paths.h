@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files/drives.h"
+#include "platform/files/folderindex.h"
+#include "platform/files/host.h"
+
+namespace tessaro {
+
+/// Turns paths in the game's form (`C:\UnrealTournament\System\user.ini`) into host paths and
+/// back, and keeps the current drive and the current folder of each drive, as DOS does.
+///
+/// Names match without regard to case: the exact name first, then a fold. `/` is taken for `\`.
+class Paths {
+  public:
+    /// Starts in the host's current folder.
+    Paths(Host& host, DriveMap drives);
+
+    /// The host path of a game path. What exists of it is given as it is spelled on the disk; a
+    /// tail that does not exist is kept as it is. Raises 68 for a drive that is not there.
+    HostPath toHost(std::string_view path);
+    /// The same if all of it is there by its names (a link may still lead nowhere), else nothing.
+    /// Asking for many missing files of one folder costs one look at that folder each.
+    std::optional<HostPath> find(std::string_view path) { return findFull(absolute(path)); }
+    /// The game path of a host path; the longest drive root wins. Links are followed only where
+    /// that brings a path outside the other drives onto one. For a backslash in a name see
+    /// hostname.h. Raises 68 if no drive holds it.
+    std::string toGame(const HostPath& path) const;
+
+    /// A full game path, with drive, made from a relative one; "." and ".." are resolved.
+    std::string absolute(std::string_view path) const;
+
+    /// The current folder of the current drive, such as `C:\UnrealTournament` or `C:\`.
+    std::string currentFolder() const;
+    /// Changes the current folder of the drive that the path names (the current drive if none);
+    /// never the current drive. The process's folder follows if the drive is the current one.
+    /// Raises 76 if there is no such folder, 68 if there is no such drive.
+    void changeFolder(std::string_view path);
+    /// Makes the drive of the text's first letter current. Raises 68, or 5 for a text without one.
+    void changeDrive(std::string_view drive);
+    /// Letters of the drives that are there, in order.
+    std::vector<char> drives() const;
+
+    /// To be called after we made, renamed or removed a name in a host folder.
+    void forget(const HostPath& folder) { index_.forget(folder); }
+
+  private:
+    const HostPath& rootOf(char drive) const;
+    char longestRootOf(const HostPath& path) const;
+    std::optional<HostPath> findFull(std::string_view full);
+    HostPath toHostFull(std::string_view full);
+
+    Host& host_;
+    DriveMap roots_;
+    FolderIndex index_;
+    // Full game path of a folder -> where it was found. Trusted as long as there is such a folder.
+    std::map<std::string, HostPath, std::less<>> found_;
+    std::map<char, std::string> folders_;  // drive letter -> current folder in the game's form
+    char drive_ = 'C';
+};
+
+}  // namespace tessaro

@@ -1,0 +1,81 @@
+#include "platform/posix/commandline.h"
+
+#include <algorithm>
+
+namespace tessaro {
+
+namespace {
+
+constexpr std::string_view Blanks = " \t";
+
+bool isBlank(char character) {
+    return Blanks.find(character) != std::string_view::npos;
+}
+
+void skipBlanks(std::string_view& rest) {
+    rest.remove_prefix(std::min(rest.find_first_not_of(Blanks), rest.size()));
+}
+
+// Takes one argument off the front of the line.
+class ArgumentReader {
+  public:
+    explicit ArgumentReader(std::string_view& rest) : rest_(rest) {}
+
+    std::string read() {
+        while (!rest_.empty() && (quoted_ || !isBlank(rest_.front()))) {
+            if (rest_.front() == '\\') {
+                takeBackslashes();
+            } else if (rest_.front() == '"') {
+                takeQuote();
+            } else {
+                take(1);
+            }
+        }
+        return std::move(argument_);
+    }
+
+  private:
+    void take(std::size_t count) {
+        argument_ += rest_.substr(0, count);
+        rest_.remove_prefix(count);
+    }
+
+    void takeBackslashes() {
+        const std::size_t count = std::min(rest_.find_first_not_of('\\'), rest_.size());
+        const bool beforeQuote = count < rest_.size() && rest_[count] == '"';
+        if (!beforeQuote) return take(count);
+        rest_.remove_prefix(count - count / 2);
+        take(count / 2);
+        if (count % 2 == 1) take(1);
+    }
+
+    void takeQuote() {
+        rest_.remove_prefix(1);
+        if (quoted_ && rest_.starts_with('"')) take(1);
+        quoted_ = !quoted_;
+    }
+
+    std::string_view& rest_;
+    std::string argument_;
+    bool quoted_ = false;
+};
+
+}  // namespace
+
+CommandLine splitCommandLine(std::string_view line) {
+    CommandLine parts;
+    parts.program = line.substr(0, line.find_first_of(Blanks));
+    std::string_view rest = line.substr(parts.program.size());
+    for (skipBlanks(rest); !rest.empty(); skipBlanks(rest)) {
+        parts.arguments.push_back(ArgumentReader(rest).read());
+    }
+    return parts;
+}
+
+bool isFullGamePath(std::string_view text) {
+    if (text.size() < 3 || text.substr(1, 2) != ":\\") return false;
+    const char letter = static_cast<char>(text.front() | 0x20);
+    return letter >= 'a' && letter <= 'z';
+}
+
+}  // namespace tessaro

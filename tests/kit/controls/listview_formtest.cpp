@@ -1,0 +1,182 @@
+#include "kit/controls/listview.h"
+
+#include <gmock/gmock.h>
+
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "support/forms/formsfixture.h"
+
+namespace tessaro::forms {
+namespace {
+
+using test::serveEvents;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class ListViews : public ::testing::Test {
+  protected:
+    ListViews() {
+        for (const char* name : {"Alpha", "Beta", "Gamma"}) rows_.add(name);
+        view_.resize(400, 300);
+        view_.show(rows_);
+        static_cast<QWidget&>(view_).show();
+        serveEvents();
+    }
+
+    QString shown(int row, int column = 0) const {
+        return view_.model()->index(row, column).data().toString();
+    }
+    std::vector<int> highlightedRows() const {
+        std::vector<int> rows;
+        for (const QModelIndex& index : view_.selectionModel()->selectedRows())
+            rows.push_back(index.row());
+        std::sort(rows.begin(), rows.end());
+        return rows;
+    }
+    std::vector<std::size_t> selectedItems() const {
+        std::vector<std::size_t> selected;
+        for (std::size_t i = 1; i <= rows_.count(); ++i)
+            if (rows_.item(i).selected) selected.push_back(i);
+        return selected;
+    }
+    void click(int row, Qt::KeyboardModifiers modifiers = {}) {
+        const QRect place = view_.visualRect(view_.model()->index(row, 0));
+        QTest::mouseClick(view_.viewport(), Qt::LeftButton, modifiers, place.center());
+    }
+
+    ListItems rows_{{{"name", "Name"}, {"ip", "IP"}}};
+    ListView view_;
+};
+
+TEST_F(ListViews, ShowsColumnsRowsAndSubItems) {
+    rows_.setSubItem(2, 1, "10.0.0.1");
+    EXPECT_EQ(view_.header()->count(), 2);
+    EXPECT_EQ(view_.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("IP"));
+    EXPECT_EQ(view_.model()->rowCount(), 3);
+    EXPECT_EQ(shown(1), QStringLiteral("Beta"));
+    EXPECT_EQ(shown(1, 1), QStringLiteral("10.0.0.1"));
+    EXPECT_EQ(shown(0, 1), QString());
+}
+
+TEST_F(ListViews, FollowsRowsThatComeAndGoAtOnce) {
+    rows_.add(1, "New");
+    EXPECT_EQ(view_.model()->rowCount(), 4);
+    EXPECT_EQ(shown(0), QStringLiteral("New"));
+    rows_.remove(2);
+    EXPECT_EQ(shown(1), QStringLiteral("Beta"));
+    rows_.clear();
+    EXPECT_EQ(view_.model()->rowCount(), 0);
+}
+
+TEST_F(ListViews, NoRowIsHighlightedUntilTheUserPicksOne) {
+    EXPECT_THAT(highlightedRows(), IsEmpty());
+    EXPECT_EQ(rows_.selectedItem(), 1u);
+}
+
+TEST_F(ListViews, AClickPicksARow) {
+    click(1);
+    EXPECT_EQ(rows_.selectedItem(), 2u);
+    EXPECT_THAT(selectedItems(), ElementsAre(2u));
+    click(2);
+    EXPECT_THAT(selectedItems(), ElementsAre(3u));
+}
+
+TEST_F(ListViews, TheArrowKeysPickARow) {
+    click(0);
+    QTest::keyClick(&view_, Qt::Key_Down);
+    EXPECT_EQ(rows_.selectedItem(), 2u);
+    EXPECT_THAT(selectedItems(), ElementsAre(2u));
+}
+
+TEST_F(ListViews, SeveralRowsCanBeHighlightedWhereThatIsAllowed) {
+    view_.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    click(0);
+    click(2, Qt::ControlModifier);
+    EXPECT_THAT(selectedItems(), ElementsAre(1u, 3u));
+    EXPECT_EQ(rows_.selectedItem(), 3u);
+}
+
+TEST_F(ListViews, TheSelectedItemMayStandWithoutHighlight) {
+    view_.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    click(1);
+    click(1, Qt::ControlModifier);
+    EXPECT_THAT(selectedItems(), IsEmpty());
+    EXPECT_EQ(rows_.selectedItem(), 2u);
+}
+
+TEST_F(ListViews, TheHighlightFollowsTheItems) {
+    rows_.pick(3);
+    serveEvents();
+    EXPECT_THAT(highlightedRows(), ElementsAre(2));
+    rows_.add(1, "New");
+    serveEvents();
+    EXPECT_THAT(highlightedRows(), ElementsAre(3));
+    rows_.remove(4);
+    serveEvents();
+    EXPECT_THAT(highlightedRows(), IsEmpty());
+    EXPECT_THAT(selectedItems(), IsEmpty());
+}
+
+TEST_F(ListViews, TheHighlightFollowsASort) {
+    click(0);
+    rows_.sort(0, 1);
+    serveEvents();
+    EXPECT_EQ(shown(0), QStringLiteral("Gamma"));
+    EXPECT_THAT(highlightedRows(), ElementsAre(2));
+}
+
+TEST_F(ListViews, RemovingRowsIsNoPickOfTheUser) {
+    click(2);
+    rows_.remove(1);
+    EXPECT_EQ(rows_.item(rows_.selectedItem()).text, "Gamma");
+}
+
+TEST_F(ListViews, AClickOnAColumnsHeadIsReportedByItsNumber) {
+    QSignalSpy clicks(&view_, &ListView::columnClicked);
+    const QHeaderView* header = view_.header();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                      QPoint(header->sectionViewportPosition(1) + 5, header->height() / 2));
+    ASSERT_EQ(clicks.count(), 1);
+    EXPECT_EQ(clicks[0][0].toInt(), 2);
+}
+
+TEST_F(ListViews, ARowIsFoundUnderAPoint) {
+    EXPECT_EQ(view_.rowAt(view_.visualRect(view_.model()->index(1, 0)).center()), 2u);
+    EXPECT_EQ(view_.rowAt(QPoint(10, 290)), 0u);
+}
+
+TEST_F(ListViews, ABatchIsFollowedInOnePass) {
+    rows_.clear();
+    serveEvents();
+    QSignalSpy repaints(view_.model(), &QAbstractItemModel::dataChanged);
+    for (int i = 0; i < 32000; ++i) rows_.setSubItem(rows_.add("Map"), 1, "1,000");
+    EXPECT_EQ(view_.model()->rowCount(), 32000);
+    EXPECT_EQ(repaints.count(), 0);
+    serveEvents();
+    EXPECT_EQ(repaints.count(), 1);
+}
+
+TEST(ListViewLife, ItemsMayChangeAfterTheViewHasGone) {
+    ListItems rows(std::vector<ListColumn>{{"name", "Name"}});
+    {
+        ListView view;
+        view.show(rows);
+    }
+    rows.add("later");
+    EXPECT_EQ(rows.count(), 1u);
+}
+
+TEST(ListViewLife, TheViewMayOutliveItsItemsAsInAForm) {
+    ListView view;
+    {
+        ListItems rows(std::vector<ListColumn>{{"name", "Name"}});
+        view.show(rows);
+        rows.add("row");
+    }
+    EXPECT_NE(view.items(), nullptr);
+}
+
+}  // namespace
+}  // namespace tessaro::forms

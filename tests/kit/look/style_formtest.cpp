@@ -1,0 +1,57 @@
+#include "kit/look/style.h"
+
+#include <gtest/gtest.h>
+
+#include <QProxyStyle>
+#include <QStyle>
+
+#include <QComboBox>
+#include <QLabel>
+
+namespace tessaro::forms {
+namespace {
+
+TEST(ProgramStyle, IsFixedAndDoesNotFollowTheDesktop) {
+    const auto* style = qobject_cast<QProxyStyle*>(QApplication::style());
+    ASSERT_NE(style, nullptr);
+    EXPECT_EQ(style->baseStyle()->name(), QStringLiteral("fusion"));
+    EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
+    EXPECT_FALSE(QApplication::windowIcon().isNull());
+}
+
+TEST(ProgramStyle, HasThePictureThatAMenuBarAsksFor) {
+    const QIcon icon =
+        QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+    EXPECT_FALSE(icon.pixmap(16).isNull());
+}
+
+TEST(ProgramStyle, EveryTextStandsOutFromItsGround) {
+    const QPalette palette = QApplication::palette();
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::HighlightedText, QPalette::Highlight}};
+    for (const auto& [text, ground] : pairs) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            const int contrast =
+                palette.color(group, text).lightness() - palette.color(group, ground).lightness();
+            EXPECT_GT(std::abs(contrast), 75) << text << " on " << ground << " in " << group;
+        }
+    }
+}
+
+TEST(FieldGround, IsReallyPaintedOnADropDownList) {
+    QComboBox box;
+    box.addItem(QStringLiteral("c:"));
+    box.resize(120, 30);
+    setFieldGround(box, QColor(0, 0, 192));
+    const QColor painted = box.grab().toImage().pixelColor(60, 15);
+    EXPECT_GT(painted.blue(), 150);
+    EXPECT_LT(painted.red(), 90);
+}
+
+}  // namespace
+}  // namespace tessaro::forms

@@ -1,0 +1,270 @@
+#include "platform/files/paths.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "support/testworld.h"
+
+namespace tessaro {
+namespace {
+
+namespace fs = std::filesystem;
+using test::errorOf;
+using test::TestWorld;
+
+TEST(Paths, AFullPathStaysAsItIs) {
+    TestWorld world;
+    EXPECT_EQ(world.paths.absolute("C:\\UnrealTournament\\System\\user.ini"),
+              "C:\\UnrealTournament\\System\\user.ini");
+    EXPECT_EQ(world.paths.absolute("c:\\x"), "C:\\x");
+}
+
+TEST(Paths, SlashesAndDoubledBackslashesAreHarmless) {
+    TestWorld world;
+    EXPECT_EQ(world.paths.absolute("C:\\\\cache.ini"), "C:\\cache.ini");
+    EXPECT_EQ(world.paths.absolute("C:\\\\\\cache.ini"), "C:\\cache.ini");
+    EXPECT_EQ(world.paths.absolute("C:/a//b\\/c/"), "C:\\a\\b\\c");
+}
+
+TEST(Paths, OnlyARootKeepsItsBackslash) {
+    TestWorld world;
+    EXPECT_EQ(world.paths.absolute("C:\\a\\"), "C:\\a");
+    EXPECT_EQ(world.paths.absolute("C:\\"), "C:\\");
+    EXPECT_EQ(world.paths.absolute("C:\\a\\.."), "C:\\");
+}
+
+TEST(Paths, DotsAreResolvedAndStopAtTheRoot) {
+    TestWorld world;
+    EXPECT_EQ(world.paths.absolute("C:\\a\\.\\b\\..\\c"), "C:\\a\\c");
+    EXPECT_EQ(world.paths.absolute("C:\\..\\..\\a"), "C:\\a");
+    EXPECT_EQ(world.paths.absolute("C:\\a\\...\\b"), "C:\\a\\...\\b");
+}
+
+TEST(Paths, RelativeNamesStartInTheFolderOfTheirDrive) {
+    TestWorld world;
+    world.makeFolder("C:\\game\\System");
+    world.paths.changeFolder("C:\\game\\System");
+    world.paths.changeFolder("Z:" + std::string("\\tmp"));
+    EXPECT_EQ(world.paths.absolute("user.ini"), "C:\\game\\System\\user.ini");
+    EXPECT_EQ(world.paths.absolute(".\\user.ini"), "C:\\game\\System\\user.ini");
+    EXPECT_EQ(world.paths.absolute("..\\Maps"), "C:\\game\\Maps");
+    EXPECT_EQ(world.paths.absolute("\\Maps"), "C:\\Maps");
+    EXPECT_EQ(world.paths.absolute("Z:x"), "Z:\\tmp\\x");
+    EXPECT_EQ(world.paths.absolute("z:"), "Z:\\tmp");
+    EXPECT_EQ(world.paths.absolute(""), "C:\\game\\System");
+}
+
+TEST(Paths, NamesMatchWithoutRegardToCase) {
+    TestWorld world;
+    world.write("C:\\UnrealTournament\\Cache\\Cache.ini", "");
+    EXPECT_EQ(world.paths.toHost("c:\\unrealtournament\\CACHE\\cache.INI"),
+              world.at("C:\\UnrealTournament\\Cache\\Cache.ini"));
+}
+
+TEST(Paths, LettersOutsideAsciiFoldToo) {
+    TestWorld world;
+    world.write(
+        "C:\\\xC3\x9C"
+        "bung.ini",
+        "");
+    EXPECT_EQ(world.paths.toHost("C:\\\xC3\xBC"
+                                 "BUNG.ini"),
+              world.at("C:\\\xC3\x9C"
+                       "bung.ini"));
+}
+
+TEST(Paths, TheExactNameComesFirst) {
+    TestWorld world;
+    world.write("C:\\Maps\\a", "");
+    world.write("C:\\maps\\b", "");
+    EXPECT_EQ(world.paths.toHost("C:\\maps"), world.at("C:\\maps"));
+    EXPECT_EQ(world.paths.toHost("C:\\Maps"), world.at("C:\\Maps"));
+    EXPECT_EQ(world.paths.toHost("C:\\MAPS"), world.at("C:\\Maps"));
+}
+
+TEST(Paths, ATailThatIsNotThereIsKept) {
+    TestWorld world;
+    world.makeFolder("C:\\Game");
+    EXPECT_EQ(world.paths.toHost("C:\\game\\New\\File.txt"), world.at("C:\\Game\\New\\File.txt"));
+    EXPECT_EQ(world.paths.toHost("C:\\game\\New"), world.at("C:\\Game\\New"));
+    EXPECT_FALSE(world.paths.find("C:\\game\\New\\File.txt").has_value());
+}
+
+TEST(Paths, AMissingDriveRaises68) {
+    TestWorld world;
+    EXPECT_EQ(errorOf([&] { world.paths.toHost("Q:\\x"); }), errors::DeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { world.paths.find("Q:\\x\\y"); }), errors::DeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { world.paths.changeFolder("Q:\\"); }), errors::DeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { world.paths.changeDrive("Q:"); }), errors::DeviceUnavailable);
+}
+
+TEST(Paths, AFolderThatMovedAwayIsFoundAtItsNewName) {
+    TestWorld world;
+    world.write("C:\\Game\\Cache\\a.uxx", "");
+    EXPECT_TRUE(world.paths.find("C:\\Game\\Cache\\a.uxx"));
+    fs::rename(world.at("C:\\Game"), world.at("C:\\GAME"));
+    EXPECT_EQ(world.paths.find("C:\\Game\\Cache\\a.uxx"), world.at("C:\\GAME\\Cache\\a.uxx"));
+    fs::remove_all(world.at("C:\\GAME"));
+    EXPECT_FALSE(world.paths.find("C:\\Game\\Cache\\a.uxx"));
+}
+
+TEST(Paths, AFolderUnderTheWindowsFolderReadsAsItsDrive) {
+    TestWorld world;
+    EXPECT_EQ(world.paths.toGame(world.driveC() / "UnrealTournament" / "System"),
+              "C:\\UnrealTournament\\System");
+    EXPECT_EQ(world.paths.toGame(world.driveC()), "C:\\");
+    EXPECT_EQ(world.paths.toGame(world.driveC() / ""), "C:\\");
+}
+
+TEST(Paths, AFolderElsewhereReadsAsDriveZ) {
+    TestWorld world;
+    EXPECT_EQ(world.paths.toGame("/"), "Z:\\");
+    EXPECT_EQ(world.paths.toGame("/usr/nowhere/ut"), "Z:\\usr\\nowhere\\ut");
+}
+
+TEST(Paths, ANeighbourOfARootIsNotInIt) {
+    TestWorld world;
+    const std::string text = world.paths.toGame(world.prefix() / "drive_c2" / "x");
+    EXPECT_EQ(text.substr(0, 3), "Z:\\");
+    EXPECT_TRUE(text.ends_with("\\drive_c2\\x"));
+}
+
+TEST(Paths, TheLongestRootWins) {
+    TestWorld world;
+    DriveMap drives = world.drives;
+    drives['D'] = world.driveC() / "games";
+    world.makeFolder("C:\\games\\ut");
+    const Paths paths(world.host, drives);
+    EXPECT_EQ(paths.toGame(world.driveC() / "games" / "ut"), "D:\\ut");
+    EXPECT_EQ(paths.toGame(world.driveC() / "other"), "C:\\other");
+}
+
+TEST(Paths, AWayThroughALinkStillFindsTheDrive) {
+    TestWorld world;
+    world.makeFolder("C:\\Game");
+    fs::create_directory_symlink(world.prefix(), world.folder() / "link");
+    EXPECT_EQ(world.paths.toGame(world.folder() / "link" / "drive_c" / "Game"), "C:\\Game");
+}
+
+TEST(Paths, ALinkInsideADriveKeepsItsName) {
+    TestWorld world;
+    fs::create_directory(world.folder() / "elsewhere");
+    fs::create_directory_symlink(world.folder() / "elsewhere", world.at("C:\\Game"));
+    EXPECT_EQ(world.paths.toGame(world.at("C:\\Game")), "C:\\Game");
+    EXPECT_EQ(world.paths.toHost("C:\\Game"), world.at("C:\\Game"));
+}
+
+TEST(Paths, ABackslashInAHostNameSurvivesTheWayThereAndBack) {
+    TestWorld world;
+    const HostPath odd = world.driveC() / "a\\b" / "c\\d.ini";
+    TestWorld::writeHost(odd, "x");
+    const std::string game = world.paths.toGame(odd);
+    EXPECT_EQ(game,
+              "C:\\a\xEF\x81\x9C"
+              "b\\c\xEF\x81\x9C"
+              "d.ini");
+    EXPECT_EQ(world.paths.toHost(game), odd);
+    EXPECT_EQ(world.files.read(game), "x");
+}
+
+TEST(Paths, PatternLettersAndQuotesInAHostNameSurviveTheWayThereAndBack) {
+    TestWorld world;
+    const HostPath odd = world.driveC() / "a*" / "b?\"c.ini";
+    TestWorld::writeHost(odd, "x");
+    TestWorld::writeHost(world.driveC() / "a*" / "bb\"c.ini", "y");
+    const std::string game = world.paths.toGame(odd);
+    EXPECT_EQ(game, "C:\\a\uF02A\\b\uF03F\uF022c.ini");
+    EXPECT_EQ(world.paths.toHost(game), odd);
+    EXPECT_EQ(world.files.list(game, attributes::Normal).size(), 1U);
+    world.files.deleteFiles(game);
+    EXPECT_EQ(std::distance(fs::directory_iterator(odd.parent_path()), {}), 1);
+}
+
+TEST(Paths, TheStartIsTheProcessFolder) {
+    TestWorld world;
+    world.makeFolder("C:\\Game");
+    fs::current_path(world.at("C:\\Game"));
+    const Paths inside(world.host, world.drives);
+    EXPECT_EQ(inside.currentFolder(), "C:\\Game");
+    fs::current_path("/");
+    const Paths outside(world.host, world.drives);
+    EXPECT_EQ(outside.currentFolder(), "Z:\\");
+}
+
+TEST(Paths, ADeletedStartFolderLeavesTheFirstDriveRoot) {
+    TestWorld world;
+    world.makeFolder("C:\\gone");
+    fs::current_path(world.at("C:\\gone"));
+    fs::remove(world.at("C:\\gone"));
+    const Paths paths(world.host, world.drives);
+    EXPECT_EQ(paths.currentFolder(), "C:\\");
+}
+
+TEST(Paths, ChangingTheFolderTakesTheProcessAlong) {
+    TestWorld world;
+    world.makeFolder("C:\\Game\\System");
+    world.paths.changeFolder("game\\system");
+    EXPECT_EQ(fs::current_path(), world.at("C:\\Game\\System"));
+    world.paths.changeFolder("..");
+    EXPECT_EQ(fs::current_path(), world.at("C:\\Game"));
+}
+
+TEST(Paths, ChangingTheFolderOfAnotherDriveChangesNoDrive) {
+    TestWorld world;
+    world.paths.changeFolder("Z:\\usr");
+    EXPECT_EQ(world.paths.currentFolder(), "C:\\");
+    EXPECT_EQ(fs::current_path(), world.driveC());
+    EXPECT_EQ(world.paths.absolute("Z:x"), "Z:\\usr\\x");
+}
+
+TEST(Paths, ChangingTheDriveEntersItsFolder) {
+    TestWorld world;
+    world.paths.changeFolder("Z:\\usr");
+    world.paths.changeDrive("z");
+    EXPECT_EQ(world.paths.currentFolder(), "Z:\\usr");
+    EXPECT_EQ(fs::current_path(), "/usr");
+    world.paths.changeDrive("C:\\anything");
+    EXPECT_EQ(fs::current_path(), world.driveC());
+}
+
+TEST(Paths, ADriveWhoseFolderIsGoneIsEnteredAtItsRoot) {
+    TestWorld world;
+    world.makeFolder("C:\\gone");
+    world.paths.changeFolder("C:\\gone");
+    world.paths.changeDrive("Z:");
+    fs::remove(world.at("C:\\gone"));
+    world.paths.changeDrive("C:");
+    EXPECT_EQ(world.paths.currentFolder(), "C:\\");
+    EXPECT_EQ(fs::current_path(), world.driveC());
+}
+
+TEST(Paths, AFolderThatIsNotThereRaises76AndChangesNothing) {
+    TestWorld world;
+    world.write("C:\\file", "");
+    EXPECT_EQ(errorOf([&] { world.paths.changeFolder("C:\\nowhere"); }), errors::PathNotFound);
+    EXPECT_EQ(errorOf([&] { world.paths.changeFolder("C:\\file"); }), errors::PathNotFound);
+    EXPECT_EQ(world.paths.currentFolder(), "C:\\");
+}
+
+TEST(Paths, AFolderThatTheSystemRefusesChangesNothing) {
+    TestWorld world;
+    world.makeFolder("C:\\locked");
+    world.host.refuse(test::Call::ChangeFolder, errors::PermissionDenied, "locked");
+    EXPECT_EQ(errorOf([&] { world.paths.changeFolder("locked"); }), errors::PermissionDenied);
+    EXPECT_EQ(world.paths.currentFolder(), "C:\\");
+}
+
+TEST(Paths, ATextWithoutADriveLetterRaises5) {
+    TestWorld world;
+    EXPECT_EQ(errorOf([&] { world.paths.changeDrive(""); }), errors::InvalidProcedureCall);
+    EXPECT_EQ(errorOf([&] { world.paths.changeDrive("1:"); }), errors::InvalidProcedureCall);
+}
+
+TEST(Paths, DrivesComeInOrder) {
+    TestWorld world;
+    EXPECT_EQ(world.paths.drives(), (std::vector<char>{'C', 'Z'}));
+}
+
+}  // namespace
+}  // namespace tessaro
