@@ -3,5 +3,5 @@
 #include "app/application.h"
 
 int main(int argc, char** argv) {
-    return tessaro::forms::Application(argc, argv).run();
+    return tessaro::Application(argc, argv).run();
 }

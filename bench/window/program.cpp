@@ -4,7 +4,7 @@
 #include "bench/window/firstpaint.h"
 
 int main(int argc, char** argv) {
-    tessaro::forms::Application application(argc, argv);
+    tessaro::Application application(argc, argv);
     const tessaro::bench::FirstPaint hook;
     return application.run();
 }

@@ -4,7 +4,7 @@
 #include "kit/forms/handler.h"
 #include "kit/look/style.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 ProgramFile runningProgram(Host& host, const DriveMap& drives) {
@@ -20,10 +20,11 @@ Application::Application(int& argc, char** argv)
       drives_(hostDrives()),
       dialogs_(programEnd_, *host_, drives_),
       events_(programEnd_),
-      processes_(makeProcesses(*host_, drives_, [this] { events_.repaint(); })),
+      processes_(makeProcesses(*host_, drives_, [this] { events_.serveWhileBlocked(); })),
       program_(*host_, drives_, {dialogs_, sounds_, *processes_, events_},
                runningProgram(*host_, drives_)),
-      forms_(program_, programEnd_) {
+      forms_(dialogs_, programEnd_),
+      tools_(forms_, program_) {
     applyProgramStyle(application_);
 }
 
@@ -32,4 +33,4 @@ int Application::run() {
     return forms_.run();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -3,12 +3,13 @@
 #include <QApplication>
 #include <memory>
 
+#include "app/tools.h"
 #include "kit/forms/forms.h"
 #include "kit/outside/qtdialogs.h"
 #include "kit/outside/qtevents.h"
 #include "kit/outside/qtsounds.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The running program: everything that it is made of, made once.
 class Application {
@@ -30,6 +31,7 @@ class Application {
     std::unique_ptr<Processes> processes_;
     Program program_;
     Forms forms_;
+    Tools tools_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -21,14 +21,14 @@ void Extraction::run(const std::string& cacheFolder) {
     program_.paths.changeFolder(entry.mypath);
     ListView1.clear();
     AnnounceCacheSize(program_);
-    observer_.setRunning(true);
+    observer_.enableStop(true);
     observer_.setBusyPointer(true);
     prepareFolders();
     entry.EFile = 0;
     entry.linecnt = 1;
     entry.linecnt2 = 1;
     if (announceMissingIndex(cacheFolder + "\\cache.ini")) return;
-    if (!walk(cacheFolder)) askToClose();
+    if (!extractUntilStopped(cacheFolder)) askToClose();
 }
 
 /// Relative names: a change of folder does not change the drive, so for a destination on another
@@ -54,7 +54,7 @@ bool Extraction::announceMissingIndex(const std::string& index) {
 /// Tells whether the user stopped it. A failure anywhere in here (a full disk, a locked target, a
 /// counter past its width, the index closed by the form's end) leads to the closing question
 /// without a word of it, also when it comes after the press on "&Stop".
-bool Extraction::walk(const std::string& cacheFolder) {
+bool Extraction::extractUntilStopped(const std::string& cacheFolder) {
     attempt([&] { program_.table.openInput(indexFileNumber, cacheFolder + "\\cache.ini"); });
     bool stopped = false;
     attempt([&] {
@@ -134,9 +134,9 @@ void Extraction::askToClose() {
 }
 
 void Extraction::StopExtraction() {
-    observer_.setRunning(false);
+    observer_.enableStop(false);
     observer_.setBusyPointer(false);
-    release();
+    closeIndex();
 }
 
 /// The order never returns to ascending, and the test compares a column counted from 0 with one
@@ -146,7 +146,7 @@ void Extraction::sortBy(int column) {
     ListView1.setSortKey(column - 1);
 }
 
-void Extraction::release() {
+void Extraction::closeIndex() {
     attempt([&] { program_.table.close(indexFileNumber); });
 }
 

@@ -18,9 +18,9 @@ class ExtractionObserver {
     virtual ~ExtractionObserver() = default;
     virtual void show(ExtractionBox box, const std::string& text) = 0;
     /// Running: "&Extract" is out of reach, "&Stop" within it. The reverse when idle.
-    virtual void setRunning(bool running) = 0;
+    virtual void enableStop(bool running) = 0;
     virtual void setBusyPointer(bool busy) = 0;
-    /// Whether "&Stop" was pressed since `setRunning(true)`.
+    /// Whether "&Stop" was pressed since `enableStop(true)`.
     virtual bool stopped() = 0;
     /// Whether an existing file is to be replaced; asked for each one.
     virtual bool overwriteExisting() = 0;
@@ -30,7 +30,7 @@ class ExtractionObserver {
 
 /// Walks the cache index from its first line to its last and copies each package that is still in
 /// the cache to its place under the destination root, under its true name. Opens the index as file
-/// number 1 and leaves it open until `StopExtraction` or `release`.
+/// number 1 and leaves it open until `StopExtraction` or `closeIndex`.
 class Extraction {
   public:
     Extraction(Program& program, ExtractionObserver& observer);
@@ -49,12 +49,12 @@ class Extraction {
     /// What a click on a column's head does; columns count from 1.
     void sortBy(int column);
     /// Closes the index; failures are ignored.
-    void release();
+    void closeIndex();
 
   private:
     void prepareFolders();
     bool announceMissingIndex(const std::string& index);
-    bool walk(const std::string& cacheFolder);
+    bool extractUntilStopped(const std::string& cacheFolder);
     void pass(const std::string& cacheFolder);
     void noteFailure();
     void extract();

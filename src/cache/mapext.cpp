@@ -13,13 +13,14 @@
 #include "shell/Skins.h"
 #include "ui_mapext.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
-mapext::mapext(Forms& forms)
+mapext::mapext(Forms& forms, Program& program)
     : SkinnedForm(forms, {.caption = "UT Cached Files Extractor", .title = "Map Extractor"}),
-      phile(forms.program().makeINI()),
+      phile(program.makeINI()),
+      program_(program),
       ui_(std::make_unique<Ui::mapextContent>()),
-      extraction_(forms.program(), *this) {
+      extraction_(program, *this) {
     setUpContent(*ui_);
     setupStepOne();
     setupStepTwo();
@@ -32,14 +33,10 @@ mapext::~mapext() {
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-Program& mapext::program() {
-    return forms().program();
-}
-
 void mapext::setupStepOne() {
     ui_->Command4->setMaximumWidth(3 * ui_->Command4->fontMetrics().height());
-    ui_->Drive1->use(program().files);
-    ui_->Dir1->use(program().files);
+    ui_->Drive1->use(program_.files);
+    ui_->Dir1->use(program_.files);
     on(ui_->Drive1, &DriveList::changed, forms(), [this] { changeDrive(); });
     on(ui_->Dir1, &FolderList::changed, forms(), [this] { changeFolder(); });
     on(ui_->Command4, &QPushButton::clicked, forms(), [this] { goToTypedFolder(); });
@@ -79,20 +76,20 @@ void mapext::setupDefaultButtons() {
 
 void mapext::Load() {
     PrepareForm(*this);
-    ApplySkin(forms(), *this);
-    loadExtractDest(program(), phile);
-    const std::string& cache = program().gamePaths.UTCachePath;
+    ApplySkin(program_, forms(), *this);
+    loadExtractDest(program_, phile);
+    const std::string& cache = program_.gamePaths.UTCachePath;
     ui_->Drive1->setDrive(cache.substr(0, 1));
     // A cache folder that is not there is a failure here, and ends the program.
     ui_->Dir1->setPath(cache);
     ui_->Text1->setText(toQt(ui_->Dir1->path()));
-    ui_->Text2->setText(toQt(program().settings.ExtractDest));
+    ui_->Text2->setText(toQt(program_.settings.ExtractDest));
     CheckCacheDir();
 }
 
 void mapext::Unload() {
-    saveExtractDest(program(), phile, fromQt(ui_->Text2->text()));
-    extraction_.release();
+    saveExtractDest(program_, phile, fromQt(ui_->Text2->text()));
+    extraction_.closeIndex();
 }
 
 void mapext::showStep(QWidget& frame, QPushButton& onward) {
@@ -105,39 +102,39 @@ void mapext::showStep(QWidget& frame, QPushButton& onward) {
 void mapext::changeDrive() {
     // A drive without a disc leaves things as they were.
     const std::string root = ui_->Drive1->drive().substr(0, 2) + "\\";
-    attempt([&] { program().paths.changeDrive(root); });
+    attempt([&] { program_.paths.changeDrive(root); });
     attempt([&] { ui_->Dir1->setPath(root); });
     attempt([&] { changeFolder(); });
 }
 
 void mapext::changeFolder() {
     ui_->Text1->setText(toQt(ui_->Dir1->path()));
-    program().paths.changeFolder(ui_->Dir1->path());
+    program_.paths.changeFolder(ui_->Dir1->path());
     CheckCacheDir();
 }
 
 void mapext::goToTypedFolder() {
     const std::string typed = fromQt(ui_->Text1->text());
-    if (DirExists(program(), typed) != Yes) return;
-    attempt([&] { program().paths.changeFolder(typed); });
+    if (DirExists(program_, typed) != Yes) return;
+    attempt([&] { program_.paths.changeFolder(typed); });
     attempt([&] { ui_->Dir1->setPath(typed); });
     attempt([&] { CheckCacheDir(); });
 }
 
 void mapext::CheckCacheDir() {
-    const bool valid = cacheFolderIsValid(program(), fromQt(ui_->Text1->text()), ui_->Dir1->path());
+    const bool valid = cacheFolderIsValid(program_, fromQt(ui_->Text1->text()), ui_->Dir1->path());
     ui_->validdir->setText(valid ? QStringLiteral("Valid Directory!")
                                  : QStringLiteral("Not a valid Directory."));
     ui_->next->setEnabled(valid);
 }
 
 void mapext::toStepTwo() {
-    rememberCacheFolder(program(), ui_->Dir1->path());
+    rememberCacheFolder(program_, ui_->Dir1->path());
     showStep(*ui_->Frame4, *ui_->Command5);
 }
 
 void mapext::chooseNewFolder() {
-    ui_->Text2->setText(toQt(offeredDestination(program())));
+    ui_->Text2->setText(toQt(offeredDestination(program_)));
     setNewFolderVisible(true);
 }
 
@@ -149,19 +146,19 @@ void mapext::setNewFolderVisible(bool visible) {
 
 void mapext::browseDestination() {
     const std::string answer =
-        BrowseForFolder(program(), "Where Do you wish to Extract your Map Files to?");
+        BrowseForFolder(program_, "Where Do you wish to Extract your Map Files to?");
     if (answer.empty()) return;
     ui_->Text2->setText(toQt(answer));
-    program().settings.ExtractDest = answer;
+    program_.settings.ExtractDest = answer;
 }
 
 void mapext::createFolder() {
-    ui_->Text2->setText(toQt(createDestination(program(), fromQt(ui_->Text2->text()))));
+    ui_->Text2->setText(toQt(createDestination(program_, fromQt(ui_->Text2->text()))));
 }
 
 void mapext::toStepThree() {
     extraction_.entry.mypath =
-        destinationRoot(program(), ui_->Option1->isChecked(), fromQt(ui_->Text2->text()));
+        destinationRoot(program_, ui_->Option1->isChecked(), fromQt(ui_->Text2->text()));
     ui_->Text6->setText(toQt(extraction_.entry.mypath));
     showStep(*ui_->Frame5, *ui_->Command8);
 }
@@ -176,7 +173,7 @@ void mapext::show(ExtractionBox box, const std::string& text) {
     boxes[static_cast<std::size_t>(box)]->setText(toQt(text));
 }
 
-void mapext::setRunning(bool running) {
+void mapext::enableStop(bool running) {
     ui_->Command3->setEnabled(running);
     ui_->Command8->setEnabled(!running);
 }
@@ -197,4 +194,4 @@ void mapext::closeRequested() {
     forms().unload(*this);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

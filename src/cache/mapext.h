@@ -9,14 +9,14 @@ namespace Ui {
 class mapextContent;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The extractor's wizard: finds the cache folder, chooses the destination, runs the extraction.
 class mapext : public SkinnedForm, private ExtractionObserver {
     Q_OBJECT
 
   public:
-    explicit mapext(Forms& forms);
+    mapext(Forms& forms, Program& program);
     ~mapext() override;
 
     void Load() override;
@@ -44,17 +44,16 @@ class mapext : public SkinnedForm, private ExtractionObserver {
     void extract();
 
     void show(ExtractionBox box, const std::string& text) override;
-    void setRunning(bool running) override;
+    void enableStop(bool running) override;
     void setBusyPointer(bool busy) override;
     bool stopped() override;
     bool overwriteExisting() override;
     void closeRequested() override;
 
-    Program& program();
-
+    Program& program_;
     std::unique_ptr<Ui::mapextContent> ui_;
     Extraction extraction_;
     QPushButton* onward_ = nullptr;  // leads on from the step that is shown
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -6,7 +6,7 @@
 #include "kit/look/text.h"
 #include "shell/Skins.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 void BatchForm::setUpLists(std::initializer_list<List> lists) {
     for (const List& list : lists) {
@@ -20,13 +20,14 @@ void BatchForm::setUpButtons(QPushButton& close, const std::function<void()>& ru
     on(&close, &QPushButton::clicked, forms(), [this] { closePressed(); });
 }
 
-void BatchForm::load(const ListItems& dropped, ListItems& batch, const std::string& destination) {
+void BatchForm::fillBatch(const ListItems& dropped, ListItems& batch,
+                          const std::string& destination) {
     CenterForm(*this);
     PrepareForm(*this);
-    ApplySkin(forms(), *this);
+    ApplySkin(program_, forms(), *this);
     Text1_->setText(toQt(destination));
-    loadBatch(forms().program(), dropped, batch);
-    forms().program().events.pump();
+    loadBatch(program_, dropped, batch);
+    program_.events.pump();
     if (batch.count() > 0) ProgressBar1_->setMaximum(static_cast<int>(batch.count()));
 }
 
@@ -44,4 +45,4 @@ void BatchForm::showProgress(int position) {
     ProgressBar1_->setValue(position);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

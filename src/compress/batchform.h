@@ -9,7 +9,7 @@
 #include "kit/controls/listview.h"
 #include "kit/frame/skinnedform.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// What the twin forms of the batches share: the state of a run on the screen.
 class BatchForm : public SkinnedForm, protected BatchObserver {
@@ -18,7 +18,8 @@ class BatchForm : public SkinnedForm, protected BatchObserver {
     bool QueryUnload() override { return isEnabled(); }
 
   protected:
-    using SkinnedForm::SkinnedForm;
+    BatchForm(Forms& forms, Program& program, const FrameOptions& options)
+        : SkinnedForm(forms, options), program_(program) {}
 
     /// Fills the form from its Designer file and shows a batch's two lists on it.
     template <class Ui, class Batch>
@@ -32,11 +33,13 @@ class BatchForm : public SkinnedForm, protected BatchObserver {
         setUpButtons(*ui.Command3, [&batch] { batch.run(); });
     }
     /// What the Load of both forms does.
-    void load(const ListItems& dropped, ListItems& batch, const std::string& destination);
+    void fillBatch(const ListItems& dropped, ListItems& batch, const std::string& destination);
 
     void setRunning(bool running) override;
     void showExisting(int count) override;
     void showProgress(int position) override;
+
+    Program& program_;
 
   private:
     struct List {
@@ -52,4 +55,4 @@ class BatchForm : public SkinnedForm, protected BatchObserver {
     QPushButton* Command2_ = nullptr;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -4,13 +4,13 @@
 #include "core/MainFrm.h"
 #include "ui_comp.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
-comp::comp(Forms& forms)
-    : DropForm(forms, PackageTool::Compressor,
+comp::comp(Forms& forms, Program& program)
+    : DropForm(forms, program, PackageTool::Compressor,
                {.caption = "UT File Compressor", .title = "File Compressor", .secondButton = true}),
       ui_(std::make_unique<Ui::compContent>()) {
-    setUpList(*ui_);
+    setUpForm(*ui_);
 }
 
 comp::~comp() = default;
@@ -27,4 +27,4 @@ void comp::Unload() {
     if (main != nullptr && main->isMinimized()) main->hide();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

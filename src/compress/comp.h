@@ -8,12 +8,12 @@ namespace Ui {
 class compContent;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Collects the files to compress.
 class comp : public DropForm {
   public:
-    explicit comp(Forms& forms);
+    comp(Forms& forms, Program& program);
     ~comp() override;
 
     void Unload() override;
@@ -24,4 +24,4 @@ class comp : public DropForm {
     std::unique_ptr<Ui::compContent> ui_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -9,12 +9,12 @@ namespace Ui {
 class comp2Content;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Compresses the files that `comp` has collected.
 class comp2 : public BatchForm {
   public:
-    explicit comp2(Forms& forms);
+    comp2(Forms& forms, Program& program);
     ~comp2() override;
 
     void Load() override;
@@ -27,4 +27,4 @@ class comp2 : public BatchForm {
     CompressBatch batch_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

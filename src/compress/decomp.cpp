@@ -3,14 +3,14 @@
 #include "compress/decomp2.h"
 #include "ui_decomp.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
-decomp::decomp(Forms& forms)
+decomp::decomp(Forms& forms, Program& program)
     : DropForm(
-          forms, PackageTool::Decompressor,
+          forms, program, PackageTool::Decompressor,
           {.caption = "UT File Decompressor", .title = "File Decompressor", .secondButton = true}),
       ui_(std::make_unique<Ui::decompContent>()) {
-    setUpList(*ui_);
+    setUpForm(*ui_);
     addDragHandle(*ui_->Label2);
 }
 
@@ -21,4 +21,4 @@ void decomp::showBatch() {
     forms().showModal<decomp2>();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -8,12 +8,12 @@ namespace Ui {
 class decompContent;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Collects the files to decompress.
 class decomp : public DropForm {
   public:
-    explicit decomp(Forms& forms);
+    decomp(Forms& forms, Program& program);
     ~decomp() override;
 
   private:
@@ -22,4 +22,4 @@ class decomp : public DropForm {
     std::unique_ptr<Ui::decompContent> ui_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -4,12 +4,12 @@
 #include "kit/forms/handler.h"
 #include "ui_decomp2.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
-decomp2::decomp2(Forms& forms)
-    : BatchForm(forms, {.caption = "UT File Deompressor", .title = "File Decompressor"}),
+decomp2::decomp2(Forms& forms, Program& program)
+    : BatchForm(forms, program, {.caption = "UT File Deompressor", .title = "File Decompressor"}),
       ui_(std::make_unique<Ui::decomp2Content>()),
-      batch_(forms.program(), *this, Ucc(forms.program())) {
+      batch_(program, *this, Ucc(program)) {
     setUpBatch(*ui_, batch_);
     on(ui_->Check1, &QCheckBox::toggled, forms,
        [this](bool checked) { batch_.overwriteExisting = checked; });
@@ -18,7 +18,7 @@ decomp2::decomp2(Forms& forms)
 decomp2::~decomp2() = default;
 
 void decomp2::Load() {
-    load(forms().get<decomp>().dropped(), batch_.ListView1, forms().program().DecompressDest);
+    fillBatch(forms().get<decomp>().dropped(), batch_.ListView1, program_.DecompressDest);
 }
 
 void decomp2::closeTool() {
@@ -26,4 +26,4 @@ void decomp2::closeTool() {
     closePressed();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

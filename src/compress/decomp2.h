@@ -9,12 +9,12 @@ namespace Ui {
 class decomp2Content;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Decompresses the files that `decomp` has collected.
 class decomp2 : public BatchForm {
   public:
-    explicit decomp2(Forms& forms);
+    decomp2(Forms& forms, Program& program);
     ~decomp2() override;
 
     void Load() override;
@@ -26,4 +26,4 @@ class decomp2 : public BatchForm {
     DecompressBatch batch_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

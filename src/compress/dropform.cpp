@@ -6,16 +6,16 @@
 #include "kit/forms/handler.h"
 #include "shell/Skins.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
-DropForm::DropForm(Forms& forms, PackageTool tool, const FrameOptions& options)
-    : SkinnedForm(forms, options), tool_(tool), dropped_(makeDropList()) {}
+DropForm::DropForm(Forms& forms, Program& program, PackageTool tool, const FrameOptions& options)
+    : SkinnedForm(forms, options), program_(program), tool_(tool), dropped_(makeDropList()) {}
 
 void DropForm::setUpList(ListView& list, QPushButton& remove, QPushButton& start) {
     list.show(dropped_);
     setColumnWidths(list, {22, 0, 14});
-    new FileDrop(forms(), list, [this](const std::vector<std::string>& paths) {
-        dropFiles(forms().program(), tool_, dropped_, paths);
+    new FileDrop(forms(), program_.paths, list, [this](const std::vector<std::string>& paths) {
+        dropFiles(program_, tool_, dropped_, paths);
     });
     on(&remove, &QPushButton::clicked, forms(), [this] { removeSelected(dropped_); });
     on(&start, &QPushButton::clicked, forms(), [this] { startBatch(); });
@@ -24,11 +24,11 @@ void DropForm::setUpList(ListView& list, QPushButton& remove, QPushButton& start
 void DropForm::Load() {
     CenterForm(*this);
     PrepareForm(*this);
-    ApplySkin(forms(), *this);
+    ApplySkin(program_, forms(), *this);
 }
 
 void DropForm::startBatch() {
-    if (askDestination(forms().program(), tool_, dropped_)) showBatch();
+    if (askDestination(program_, tool_, dropped_)) showBatch();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -4,7 +4,7 @@
 #include "kit/controls/listview.h"
 #include "kit/frame/skinnedform.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// What the twin forms share on which the files of a batch are dropped.
 class DropForm : public SkinnedForm {
@@ -14,11 +14,11 @@ class DropForm : public SkinnedForm {
     const ListItems& dropped() const { return dropped_; }
 
   protected:
-    DropForm(Forms& forms, PackageTool tool, const FrameOptions& options);
+    DropForm(Forms& forms, Program& program, PackageTool tool, const FrameOptions& options);
 
     /// Fills the form from its Designer file.
     template <class Ui>
-    void setUpList(Ui& ui) {
+    void setUpForm(Ui& ui) {
         setUpContent(ui);
         setUpList(*ui.ListView1, *ui.Command1, *ui.Command2);
     }
@@ -29,8 +29,9 @@ class DropForm : public SkinnedForm {
     void setUpList(ListView& list, QPushButton& remove, QPushButton& start);
     void startBatch();
 
+    Program& program_;
     PackageTool tool_;
     ListItems dropped_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -3,9 +3,6 @@
 #include <QEvent>
 #include <utility>
 
-#include "cache/mapext.h"
-#include "compress/comp.h"
-#include "compress/decomp.h"
 #include "core/centerform.h"
 #include "core/splash.h"
 #include "kit/forms/forms.h"
@@ -13,51 +10,38 @@
 #include "kit/look/pictures.h"
 #include "kit/look/twips.h"
 #include "platform/runtime/runtimeerror.h"
-#include "prefs/Prefs.h"
-#include "shell/menus.h"
 #include "ui_MainFrm.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 const QColor groundOfPicture(0x0A, 0x16, 0x22);
 
 }  // namespace
 
-MainFrm::MainFrm(Forms& forms)
-    : FormWindow(forms), INI(forms.program().makeINI()), ui_(std::make_unique<Ui::MainFrm>()) {
+MainFrm::MainFrm(Forms& forms, Program& program, MainParts& parts)
+    : FormWindow(forms),
+      INI(program.makeINI()),
+      program_(program),
+      parts_(parts),
+      ui_(std::make_unique<Ui::MainFrm>()) {
     ui_->setupUi(this);
     ui_->client->setPalette(QPalette(groundOfPicture));
     ui_->Image1->setPixmap(programPicture(QStringLiteral(":/pictures/main.png")));
     setMinimumSize(pixels(smallestMainWindow.width), pixels(smallestMainWindow.height));
-    setupMenus();
+    parts_.buildMenus(*this);
 }
 
 MainFrm::~MainFrm() = default;
 
-void MainFrm::setupMenus() {
-    buildMenus(forms(), *this,
-               {
-                   {"mnumapextractor", [this] { forms().show<mapext>(); }},
-                   {"mnurmapext", [this] { forms().showModal<mapext>(); }},
-                   {"mnumapcompress", [this] { forms().show<comp>(); }},
-                   {"mnurcompress", [this] { forms().show<comp>(); }},
-                   {"mnudecomp", [this] { forms().show<decomp>(); }},
-                   {"mnuprefs", [this] { showPrefs(); }},
-                   {"mnurprefs", [this] { showPrefs(); }},
-                   {"mnuexit", [this] { exitProgram(); }},
-                   {"mnurexit", [this] { exitProgram(); }},
-               });
-}
-
 void MainFrm::Load() {
-    INI.inifile(forms().program().settingsFile());
-    loadMainWindow(forms().program(), *this);
+    INI.inifile(program_.settingsFile());
+    loadMainWindow(program_, *this);
 }
 
 void MainFrm::Unload() {
     leaving_ = true;
-    unloadMainWindow(forms().program(), *this);
+    unloadMainWindow(program_, *this);
 }
 
 void MainFrm::center() {
@@ -83,14 +67,12 @@ void MainFrm::showSplash() {
     forms().showModal<splash>();
 }
 
-// Touching the folder box loads the dialog, which reads the game's files and may ask for the
-// folder.
-std::string MainFrm::folderToValidate() {
-    return forms().get<Prefs>().folder();
+std::string MainFrm::loadFolderToCheck() {
+    return parts_.loadFolderToCheck();
 }
 
 void MainFrm::showPrefs() {
-    forms().showModal<Prefs>();
+    parts_.showPrefs();
 }
 
 void MainFrm::unloadAllForms() {
@@ -136,7 +118,7 @@ void MainFrm::placeBackground() {
 }
 
 void MainFrm::followSize() {
-    guarded(forms(), [this] { resizeMainWindow(forms().program(), state()); });
+    guarded(forms(), [this] { resizeMainWindow(program_, state()); });
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

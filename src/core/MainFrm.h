@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <memory>
 
+#include "core/mainparts.h"
 #include "core/mainwindow.h"
 #include "kit/forms/form.h"
 
@@ -10,7 +11,7 @@ namespace Ui {
 class MainFrm;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The main window: menus, background picture, status bar. Its Load is the program's start, its
 /// Unload the program's end.
@@ -18,7 +19,7 @@ class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
     Q_OBJECT
 
   public:
-    explicit MainFrm(Forms& forms);
+    MainFrm(Forms& forms, Program& program, MainParts& parts);
     ~MainFrm() override;
 
     void Load() override;
@@ -28,9 +29,12 @@ class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
     void setState(int state) override;
     int state() override;
     void showSplash() override;
-    std::string folderToValidate() override;
+    std::string loadFolderToCheck() override;
     void showPrefs() override;
     void unloadAllForms() override;
+
+    /// Ends the program as its menu items do.
+    void exitProgram();
 
     clsINI INI;
 
@@ -40,14 +44,14 @@ class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void setupMenus();
     void placeBackground();
     void followSize();
-    void exitProgram();
 
+    Program& program_;
+    MainParts& parts_;
     std::unique_ptr<Ui::MainFrm> ui_;
     bool leaving_ = false;     // Unload runs
     bool stateIsNew_ = false;  // until the Resize that comes with it
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

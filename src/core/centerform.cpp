@@ -6,7 +6,7 @@
 #include "kit/frame/placement.h"
 #include "kit/look/twips.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 Box boxOf(const QRect& rectangle) {
@@ -25,4 +25,4 @@ void CenterForm(QWidget& form) {
     form.move(fittedInto(screen, QRect(corner, frame.size())).topLeft());
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

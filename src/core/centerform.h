@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Places a form centred across its screen and a little above the middle.
 void CenterForm(QWidget& form);
@@ -11,4 +11,4 @@ void CenterForm(QWidget& form);
 /// keep the call as the place for it.
 inline void PrepareForm(QWidget&) {}
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

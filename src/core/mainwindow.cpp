@@ -31,7 +31,7 @@ void loadMainWindow(Program& program, MainWindow& window) {
     window.center();
     LoadSettings(program);
     window.setState(toInt16(program.settings.WindowSize));
-    if (ValidatePaths(program, window.folderToValidate()) == Yes) {
+    if (ValidatePaths(program, window.loadFolderToCheck()) == Yes) {
         greet(program, window);
     } else {
         // No splash and no greeting in a run that began with bad paths.

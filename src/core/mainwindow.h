@@ -24,8 +24,9 @@ class MainWindow {
     virtual int state() = 0;
     /// Returns when the splash has gone.
     virtual void showSplash() = 0;
-    /// The game folder that the path check tests.
-    virtual std::string folderToValidate() = 0;
+    /// The game folder that the path check tests. May read and write the game's files and ask the
+    /// user on the way.
+    virtual std::string loadFolderToCheck() = 0;
     /// Lets the user mend bad paths; returns when that is done.
     virtual void showPrefs() = 0;
     virtual void unloadAllForms() = 0;

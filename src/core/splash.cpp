@@ -9,16 +9,17 @@
 #include "kit/look/text.h"
 #include "ui_splash.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 constexpr int shownMilliseconds = 3000;
 
 }  // namespace
 
-splash::splash(Forms& forms)
+splash::splash(Forms& forms, Program& program)
     : FormWindow(forms),
-      INI(forms.program().makeINI()),
+      INI(program.makeINI()),
+      program_(program),
       ui_(std::make_unique<Ui::splash>()),
       picture_(programPicture(QStringLiteral(":/pictures/splash.png"))) {
     ui_->setupUi(this);
@@ -34,7 +35,7 @@ splash::splash(Forms& forms)
 splash::~splash() = default;
 
 void splash::Load() {
-    ui_->Label2->setText(toQt(playerName(INI, forms().program().gamePaths)));
+    ui_->Label2->setText(toQt(playerName(INI, program_.gamePaths)));
 }
 
 void splash::timeOut() {
@@ -43,7 +44,7 @@ void splash::timeOut() {
 }
 
 void splash::acknowledge() {
-    acknowledgeSplash(forms().program());
+    acknowledgeSplash(program_);
     forms().unload(*this);
 }
 
@@ -59,4 +60,4 @@ void splash::keyPressEvent(QKeyEvent*) {
     guarded(forms(), [this] { acknowledge(); });
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

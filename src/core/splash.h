@@ -5,21 +5,21 @@
 #include <QTimer>
 #include <memory>
 
-#include "core/clsINI.h"
+#include "core/program.h"
 #include "kit/forms/form.h"
 
 namespace Ui {
 class splash;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The start-up screen. It goes by itself after three seconds, or at a click or key.
 class splash : public FormWindow<QDialog> {
     Q_OBJECT
 
   public:
-    explicit splash(Forms& forms);
+    splash(Forms& forms, Program& program);
     ~splash() override;
 
     void Load() override;
@@ -35,9 +35,10 @@ class splash : public FormWindow<QDialog> {
     void acknowledge();
     void timeOut();
 
+    Program& program_;
     std::unique_ptr<Ui::splash> ui_;
     QTimer Timer1;
     QPixmap picture_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -10,7 +10,7 @@
 #include "shell/Skins.h"
 #include "ui_Prefs.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 constexpr int mostDigitsOfDays = 3;
@@ -35,10 +35,11 @@ StartMap selectedMap(const Ui::PrefsContent& ui) {
 
 }  // namespace
 
-Prefs::Prefs(Forms& forms)
+Prefs::Prefs(Forms& forms, Program& program)
     : SkinnedForm(forms, {.caption = "Ovrin Tessaro", .title = "Preferences"}),
       ui_(std::make_unique<Ui::PrefsContent>()),
-      rules_(forms.program(), *this) {
+      program_(program),
+      rules_(program, *this) {
     setUpContent(*ui_);
     ui_->Text1->setFocus();
     setupCommands();
@@ -165,7 +166,7 @@ void Prefs::enableSaving() {
 }
 
 void Prefs::applySkin() {
-    ApplySkin(forms(), *this);
+    ApplySkin(program_, forms(), *this);
 }
 
 void Prefs::hideDialog() {
@@ -186,4 +187,4 @@ void Prefs::endProgram() {
     forms().end();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -10,7 +10,7 @@ namespace Ui {
 class PrefsContent;
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The preferences dialog. Touching it loads it, hidden, and so reads the game's files; it stays
 /// loaded until it is closed.
@@ -18,7 +18,7 @@ class Prefs : public SkinnedForm, private PrefsView {
     Q_OBJECT
 
   public:
-    explicit Prefs(Forms& forms);
+    Prefs(Forms& forms, Program& program);
     ~Prefs() override;
 
     void Load() override;
@@ -50,7 +50,8 @@ class Prefs : public SkinnedForm, private PrefsView {
     void endProgram() override;
 
     std::unique_ptr<Ui::PrefsContent> ui_;
+    Program& program_;
     Preferences rules_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

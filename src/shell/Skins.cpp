@@ -11,7 +11,7 @@
 #include "platform/text/numbers.h"
 #include "shell/Skinz.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using Names = std::vector<const char*>;
@@ -98,8 +98,8 @@ void dress(QWidget& form, const Skin& skin, const Skinz& store) {
 
 }  // namespace
 
-void ApplySkin(Forms& forms, QWidget& form) {
-    const std::string& chosen = forms.program().settings.Skin;
+void ApplySkin(Program& program, Forms& forms, QWidget& form) {
+    const std::string& chosen = program.settings.Skin;
     for (const Skin& skin : skins) {
         attempt([&] {
             if (equalsNumber(chosen, skin.number)) dress(form, skin, forms.get<Skinz>());
@@ -107,4 +107,4 @@ void ApplySkin(Forms& forms, QWidget& form) {
     }
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -5,7 +5,7 @@
 #include "kit/look/pictures.h"
 #include "ui_Skinz.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 Skinz::Skinz(Forms& forms) : FormWindow<QDialog>(forms) {
     Ui::Skinz().setupUi(this);
@@ -21,4 +21,4 @@ QPixmap Skinz::picture(const char* name) const {
     return label != nullptr ? label->pixmap(Qt::ReturnByValue) : QPixmap();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

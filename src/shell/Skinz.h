@@ -5,7 +5,7 @@
 
 #include "kit/forms/forms.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The store of the frame pictures and of the tray icon's picture. Never shown; once loaded it
 /// stays until all forms are unloaded.
@@ -18,4 +18,4 @@ class Skinz : public FormWindow<QDialog> {
     QPixmap picture(const char* name) const;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -8,7 +8,7 @@
 #include "kit/look/text.h"
 #include "shell/menutable.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 bool isMenu(const MenuItem& item) {
@@ -69,4 +69,4 @@ void buildMenus(Forms& forms, QMainWindow& window, const MenuCommands& commands)
     for (const MenuItem& item : menuItems) builder.add(item);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -6,7 +6,7 @@
 #include <map>
 #include <string_view>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 class Forms;
 
@@ -17,4 +17,4 @@ using MenuCommands = std::map<std::string_view, std::function<void()>>;
 /// that is not shown. Every action bears its item's name.
 void buildMenus(Forms& forms, QMainWindow& window, const MenuCommands& commands);
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -23,7 +23,7 @@ class Watcher : public ExtractionObserver {
     int closings = 0;
 
     void show(ExtractionBox box, const std::string& text) override { shown[box] = text; }
-    void setRunning(bool now) override { running = now; }
+    void enableStop(bool now) override { running = now; }
     void setBusyPointer(bool now) override { busy = now; }
     bool stopped() override { return !running; }
     bool overwriteExisting() override { return overwrite; }
@@ -356,7 +356,7 @@ TEST_F(ExtractionRun, CopyThatFailsAfterStopStillAsks) {
 TEST_F(ExtractionRun, IndexClosedFromOutsideEndsAtTheQuestion) {
     indexOf({"a.u", "b.u"});
     game.events.onPump = [&] {
-        if (watcher.running) extraction.release();  // what the end of the form does
+        if (watcher.running) extraction.closeIndex();  // what the end of the form does
     };
     run();
     EXPECT_EQ(game.world.names("C:\\UT\\system"), Texts{"a.u"});

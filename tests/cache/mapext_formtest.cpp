@@ -16,7 +16,6 @@
 namespace tessaro::test {
 namespace {
 
-using forms::mapext;
 using Names = std::vector<std::string>;
 
 const Message closingQuestion{"Extraction Complete, Do you wish to close this window?",
@@ -41,7 +40,7 @@ class WizardForm : public GameFormsTest {
         disk_.write(cache_ + "\\cache.ini", index + std::string(32, 'D') + "=Gone.u\r\n");
     }
     mapext& shown() {
-        forms::guarded(forms_, [this] { forms_.show<mapext>(); });
+        guarded(forms_, [this] { forms_.show<mapext>(); });
         return wizard();
     }
     mapext& wizard() { return forms_.get<mapext>(); }
@@ -49,14 +48,12 @@ class WizardForm : public GameFormsTest {
     Control& the(const char* name) {
         return control<Control>(wizard(), name);
     }
-    std::string textOf(const char* box) { return forms::fromQt(the<QLineEdit>(box).text()); }
+    std::string textOf(const char* box) { return fromQt(the<QLineEdit>(box).text()); }
     void press(const char* button) {
         QTest::mouseClick(&the<QAbstractButton>(button), Qt::LeftButton);
     }
     bool visible(const char* name) { return the<QWidget>(name).isVisible(); }
-    void type(const char* box, const std::string& text) {
-        the<QLineEdit>(box).setText(forms::toQt(text));
-    }
+    void type(const char* box, const std::string& text) { the<QLineEdit>(box).setText(toQt(text)); }
     /// To step three, with the current installation as destination.
     void goToStepThree() {
         makeCache();
@@ -74,8 +71,8 @@ TEST_F(WizardForm, LoadPointsAtTheCacheAndOffersTheLastDestination) {
     shown();
     EXPECT_EQ(wizard().windowTitle(), QStringLiteral("UT Cached Files Extractor"));
     EXPECT_EQ(wizard().Title->text(), QStringLiteral("Map Extractor"));
-    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), cache_);
-    EXPECT_EQ(the<forms::DriveList>("Drive1").drive(), "c:");
+    EXPECT_EQ(the<FolderList>("Dir1").path(), cache_);
+    EXPECT_EQ(the<DriveList>("Drive1").drive(), "c:");
     EXPECT_EQ(textOf("Text1"), cache_);
     EXPECT_EQ(textOf("Text2"), "C:\\Mine");
     EXPECT_EQ(program_.settings.ExtractDest, "C:\\Mine");
@@ -92,7 +89,7 @@ TEST_F(WizardForm, FolderWithoutAnIndexDoesNotLeadOn) {
 TEST_F(WizardForm, MissingCacheFolderEndsTheProgram) {
     std::filesystem::remove(disk_.at(cache_));
     world_.dialogs.answer(Answer::Ok);
-    forms::guarded(forms_, [this] { forms_.show<mapext>(); });
+    guarded(forms_, [this] { forms_.show<mapext>(); });
     ASSERT_EQ(world_.dialogs.messages.size(), 1u);
     EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '76':\n\nPath not found");
     EXPECT_TRUE(forms_.ended());
@@ -125,7 +122,7 @@ TEST_F(WizardForm, NextPutsTheCacheFolderIntoTheMapPath) {
 TEST_F(WizardForm, ChangeOfFolderIsFollowed) {
     disk_.write("C:\\Other\\cache.ini", "");
     shown();
-    the<forms::FolderList>("Dir1").setPath("C:\\Other");
+    the<FolderList>("Dir1").setPath("C:\\Other");
     EXPECT_EQ(textOf("Text1"), "C:\\Other");
     EXPECT_EQ(program_.paths.currentFolder(), "C:\\Other");
     EXPECT_TRUE(the<QWidget>("next").isEnabled());
@@ -133,8 +130,8 @@ TEST_F(WizardForm, ChangeOfFolderIsFollowed) {
 
 TEST_F(WizardForm, ChangeOfDriveGoesToItsRootAndMakesItCurrent) {
     shown();
-    the<forms::DriveList>("Drive1").setDrive("z");
-    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), "Z:\\");
+    the<DriveList>("Drive1").setDrive("z");
+    EXPECT_EQ(the<FolderList>("Dir1").path(), "Z:\\");
     EXPECT_EQ(textOf("Text1"), "Z:\\");
     EXPECT_EQ(program_.paths.currentFolder(), "Z:\\");
 }
@@ -142,7 +139,7 @@ TEST_F(WizardForm, ChangeOfDriveGoesToItsRootAndMakesItCurrent) {
 TEST_F(WizardForm, DriveRootWithAnIndexIsValid) {
     disk_.write("C:\\cache.ini", "");
     shown();
-    the<forms::FolderList>("Dir1").setPath("C:\\");
+    the<FolderList>("Dir1").setPath("C:\\");
     EXPECT_TRUE(the<QWidget>("next").isEnabled());
 }
 
@@ -151,10 +148,10 @@ TEST_F(WizardForm, TypedFolderCountsOnlyOnceItIsConfirmed) {
     shown();
     type("Text1", "C:\\other");
     EXPECT_FALSE(the<QWidget>("next").isEnabled());
-    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), cache_);
+    EXPECT_EQ(the<FolderList>("Dir1").path(), cache_);
     press("Command4");
     EXPECT_TRUE(the<QWidget>("next").isEnabled());
-    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), "C:\\Other");
+    EXPECT_EQ(the<FolderList>("Dir1").path(), "C:\\Other");
 }
 
 TEST_F(WizardForm, EnterInTheTextConfirmsIt) {
@@ -164,7 +161,7 @@ TEST_F(WizardForm, EnterInTheTextConfirmsIt) {
     the<QWidget>("Text1").setFocus();
     type("Text1", "C:\\Other");
     QTest::keyClick(&the<QWidget>("Text1"), Qt::Key_Return);
-    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), "C:\\Other");
+    EXPECT_EQ(the<FolderList>("Dir1").path(), "C:\\Other");
     EXPECT_TRUE(visible("Frame3"));
 }
 
@@ -173,7 +170,7 @@ TEST_F(WizardForm, TypedFolderThatIsNotThereChangesNothing) {
     shown();
     type("Text1", "C:\\None");
     press("Command4");
-    EXPECT_EQ(the<forms::FolderList>("Dir1").path(), cache_);
+    EXPECT_EQ(the<FolderList>("Dir1").path(), cache_);
     EXPECT_TRUE(the<QWidget>("next").isEnabled());
 }
 
@@ -265,7 +262,7 @@ TEST_F(WizardRun, CopiesShowsAndStaysAfterNo) {
     EXPECT_EQ(textOf("Text7"), "2");
     EXPECT_EQ(textOf("Text8"), "1");
     EXPECT_EQ(textOf("Text9"), "0");
-    EXPECT_EQ(the<forms::ListView>("ListView1").items()->count(), 3u);
+    EXPECT_EQ(the<ListView>("ListView1").items()->count(), 3u);
     EXPECT_TRUE(the<QWidget>("Command8").isEnabled());
     EXPECT_FALSE(the<QWidget>("Command3").isEnabled());
     EXPECT_NE(wizard().cursor().shape(), Qt::WaitCursor);
@@ -336,7 +333,7 @@ TEST_F(WizardRun, AClickOnAColumnsHeadSorts) {
     goToStepThree();
     world_.dialogs.answer(Answer::No);
     press("Command8");
-    auto& list = the<forms::ListView>("ListView1");
+    auto& list = the<ListView>("ListView1");
     Q_EMIT list.columnClicked(2);
     Q_EMIT list.columnClicked(1);
     EXPECT_EQ(list.items()->item(1).text, "DM-C.unr");

@@ -16,7 +16,7 @@
 #include "compress/packer.h"
 #include "shell/Skins.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using test::control;
@@ -237,10 +237,10 @@ TEST_F(BatchForms, TheFirstSkinLeavesTheSecondListAsItWas) {
     program_.settings.Skin = "1";
     comp2& form = compression({});
     program_.settings.Skin = "0";
-    ApplySkin(forms_, form);
+    ApplySkin(program_, forms_, form);
     EXPECT_EQ(listOf(form, "ListView1").palette().color(QPalette::Base), QColor(64, 64, 64));
     EXPECT_EQ(listOf(form, "ListView2").palette().color(QPalette::Base), QColor(0, 0, 192));
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

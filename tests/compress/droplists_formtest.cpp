@@ -15,7 +15,7 @@
 #include "compress/packer.h"
 #include "core/MainFrm.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using test::control;
@@ -294,4 +294,4 @@ TEST_F(DropFormsWithMainWindow, ClosingTheDecompressorLeavesAMinimisedMainWindow
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -16,7 +16,6 @@
 namespace tessaro::test {
 namespace {
 
-using forms::MainFrm;
 using Names = std::vector<std::string>;
 
 class MainWindowForm : public GameFormsTest {
@@ -61,11 +60,11 @@ TEST_F(MainWindowForm, CannotBeMadeSmallerThanItsLimits) {
     MainFrm& window = start();
     window.resize(10, 10);
     serveEvents();
-    EXPECT_EQ(window.width(), forms::pixels(8000));
-    EXPECT_EQ(window.height(), forms::pixels(6000));
+    EXPECT_EQ(window.width(), pixels(8000));
+    EXPECT_EQ(window.height(), pixels(6000));
     window.resize(700, 10);
     serveEvents();
-    EXPECT_EQ(window.size(), QSize(700, forms::pixels(6000)));
+    EXPECT_EQ(window.size(), QSize(700, pixels(6000)));
 }
 
 TEST_F(MainWindowForm, PictureFollowsTheWindow) {
@@ -74,7 +73,7 @@ TEST_F(MainWindowForm, PictureFollowsTheWindow) {
     serveEvents();
     const QSize picture = control<QLabel>(window, "Image1").size();
     EXPECT_EQ(picture.width(), window.frameSize().width());
-    EXPECT_EQ(picture.height(), window.frameSize().height() - forms::pixels(1010));
+    EXPECT_EQ(picture.height(), window.frameSize().height() - pixels(1010));
 }
 
 TEST_F(MainWindowForm, MaximisingPlaysOnceAndRestoringIsSilent) {
@@ -108,7 +107,7 @@ TEST_F(MainWindowForm, StoredMaximisedStateComesBackWithItsSoundBeforeTheGreetin
 TEST_F(MainWindowForm, WindowStateBeyondTheThreeEndsTheProgram) {
     settings("[Misc]\r\nShowSplash=0\r\n[Common]\r\nWindowSize=7\r\n");
     world_.dialogs.answer(Answer::Ok);
-    forms::guarded(forms_, [this] { forms_.show<MainFrm>(); });
+    guarded(forms_, [this] { forms_.show<MainFrm>(); });
     ASSERT_EQ(world_.dialogs.messages.size(), 1u);
     EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '380':\n\nInvalid property value");
     EXPECT_TRUE(forms_.ended());
@@ -117,17 +116,17 @@ TEST_F(MainWindowForm, WindowStateBeyondTheThreeEndsTheProgram) {
 TEST_F(MainWindowForm, SoundFlagThatIsNoNumberStopsTheStartAtTheFirstSound) {
     settings("[Misc]\r\nShowSplash=0\r\nSounds=loud\r\n[Common]\r\nWindowSize=2\r\n");
     world_.dialogs.answer(Answer::Ok);
-    forms::guarded(forms_, [this] { forms_.show<MainFrm>(); });
+    guarded(forms_, [this] { forms_.show<MainFrm>(); });
     ASSERT_EQ(world_.dialogs.messages.size(), 1u);
     EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '13':\n\nType mismatch");
     EXPECT_TRUE(forms_.ended());
-    EXPECT_EQ(forms_.loaded<forms::Prefs>(), nullptr);  // the path check was not reached
+    EXPECT_EQ(forms_.loaded<Prefs>(), nullptr);  // the path check was not reached
 }
 
 TEST_F(MainWindowForm, RunCountAtItsLimitEndsTheProgramWithTheReport) {
     settings("[Misc]\r\nTimesUsed=32767\r\n");
     world_.dialogs.answer(Answer::Ok);
-    forms::guarded(forms_, [this] { forms_.show<MainFrm>(); });
+    guarded(forms_, [this] { forms_.show<MainFrm>(); });
     ASSERT_EQ(world_.dialogs.messages.size(), 1u);
     EXPECT_EQ(world_.dialogs.messages[0].text, "Run-time error '6':\n\nOverflow");
     EXPECT_TRUE(forms_.ended());
@@ -136,7 +135,7 @@ TEST_F(MainWindowForm, RunCountAtItsLimitEndsTheProgramWithTheReport) {
 
 TEST_F(MainWindowForm, CloseButtonUnloadsEveryForm) {
     MainFrm& window = start();
-    forms_.show<forms::mapext>();
+    forms_.show<mapext>();
     sounds_.clear();
     window.close();
     EXPECT_EQ(sounds_, Names{"nasty"});
@@ -178,12 +177,12 @@ TEST_F(MainWindowForm, ExtractorOpensByItsKeyAndOnlyOnce) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     disk_.write("C:\\UnrealTournament\\Cache\\cache.ini", "[Cache]\r\n");
     QTest::keyClick(&window, Qt::Key_M, Qt::ControlModifier);
-    forms::mapext* wizard = forms_.loaded<forms::mapext>();
+    mapext* wizard = forms_.loaded<mapext>();
     ASSERT_NE(wizard, nullptr);
     EXPECT_TRUE(wizard->isVisible());
     EXPECT_FALSE(wizard->isModal());
     menuItem("mnumapextractor").trigger();
-    EXPECT_EQ(forms_.loaded<forms::mapext>(), wizard);
+    EXPECT_EQ(forms_.loaded<mapext>(), wizard);
 }
 
 TEST_F(MainWindowForm, CtrlCOpensTheCompressorAndCopiesNothing) {
@@ -191,7 +190,7 @@ TEST_F(MainWindowForm, CtrlCOpensTheCompressorAndCopiesNothing) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
     QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_NE(forms_.loaded<forms::comp>(), nullptr);
+    EXPECT_NE(forms_.loaded<comp>(), nullptr);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
 }
 
@@ -199,14 +198,14 @@ TEST_F(MainWindowForm, ExtractorOfThePopUpMenuBlocksUntilItIsClosed) {
     start();
     bool modal = false;
     const WhenItComes wizard(
-        [&] { return forms_.loaded<forms::mapext>() && forms_.get<forms::mapext>().isVisible(); },
+        [&] { return forms_.loaded<mapext>() && forms_.get<mapext>().isVisible(); },
         [&] {
-            modal = forms_.get<forms::mapext>().isModal();
-            forms_.get<forms::mapext>().close();
+            modal = forms_.get<mapext>().isModal();
+            forms_.get<mapext>().close();
         });
     menuItem("mnurmapext").trigger();
     EXPECT_TRUE(modal);
-    EXPECT_EQ(forms_.loaded<forms::mapext>(), nullptr);
+    EXPECT_EQ(forms_.loaded<mapext>(), nullptr);
 }
 
 }  // namespace

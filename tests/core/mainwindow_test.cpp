@@ -30,7 +30,7 @@ class RecordingWindow : public MainWindow {
         calls.push_back("splash");
         onSplash();
     }
-    std::string folderToValidate() override { return game_.program.gamePaths.UTPath; }
+    std::string loadFolderToCheck() override { return game_.program.gamePaths.UTPath; }
     void showPrefs() override { calls.push_back("prefs"); }
     void unloadAllForms() override {
         calls.push_back("unload all");

@@ -9,7 +9,6 @@
 namespace tessaro::test {
 namespace {
 
-using forms::splash;
 using Names = std::vector<std::string>;
 
 class SplashForm : public GameFormsTest {

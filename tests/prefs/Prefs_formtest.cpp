@@ -8,7 +8,6 @@
 namespace tessaro::test {
 namespace {
 
-using forms::Prefs;
 
 const Message saveQuestion{"The Current Settings have not yet been saved, Do you wish to save?",
                            "Save Settings?", Buttons::YesNoCancel, Icon::None};
@@ -221,7 +220,7 @@ TEST_F(PrefsForm, ApplyDressesTheDialogInTheNewSkinAtOnce) {
 TEST_F(PrefsForm, OkDressesTheDialogOnlyWhenItOpensAgain) {
     Prefs& prefs = openOnGame();
     click("Option4");
-    const forms::Forms::Running keepsTheDialog(forms_);
+    const Forms::Running keepsTheDialog(forms_);
     const QLineEdit& old = box("Text1");
     click("Command6");
     EXPECT_FALSE(prefs.isVisible());
@@ -277,7 +276,7 @@ TEST_F(PrefsForm, AnErrorWhileLoadingIsReportedAndEndsTheProgram) {
     makeGame(world(), "C:\\UT");
     world().write(userIni, "[Botpack.Ladder]\r\nHasBeatenGame=maybe\r\n");
     dialogs().answer(Answer::Ok);
-    forms::guarded(forms_, [&] { forms_.showModal<Prefs>(); });
+    guarded(forms_, [&] { forms_.showModal<Prefs>(); });
     EXPECT_EQ(dialogs().messages.back().text, "Run-time error '13':\n\nType mismatch");
     EXPECT_TRUE(forms_.ended());
 }

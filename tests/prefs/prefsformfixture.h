@@ -24,21 +24,21 @@ class PrefsFormFixture : public FormsTest {
     TestWorld& world() { return world_.world; }
     ScriptedDialogs& dialogs() { return world_.dialogs; }
 
-    forms::Prefs* loaded() { return forms_.loaded<forms::Prefs>(); }
+    Prefs* loaded() { return forms_.loaded<Prefs>(); }
     /// Loads the dialog and shows it as the active window.
-    forms::Prefs& open() {
-        auto& prefs = forms_.get<forms::Prefs>();
+    Prefs& open() {
+        auto& prefs = forms_.get<Prefs>();
         forms_.show(prefs);
         QApplication::setActiveWindow(&prefs);
         serveEvents();
         return prefs;
     }
-    forms::Prefs& openOnGame() {
+    Prefs& openOnGame() {
         makeGame(world(), "C:\\UT");
         return open();
     }
     /// On a folder that is no game, with the browse at opening given up.
-    forms::Prefs& openWithoutGame() {
+    Prefs& openWithoutGame() {
         dialogs().pick("");
         dialogs().answer(Answer::Cancel);
         return open();
@@ -51,7 +51,7 @@ class PrefsFormFixture : public FormsTest {
         return *found;
     }
     QLineEdit& box(const char* name) { return control<QLineEdit>(name); }
-    std::string textOf(const char* name) { return forms::fromQt(box(name).text()); }
+    std::string textOf(const char* name) { return fromQt(box(name).text()); }
     /// A click of the mouse, with what it does to the focus.
     void click(const char* name) {
         QTest::mouseClick(&control(name), Qt::LeftButton, {},

@@ -12,7 +12,6 @@
 namespace tessaro::test {
 namespace {
 
-using forms::Prefs;
 
 class PrefsLook : public PrefsFormFixture {};
 
@@ -122,7 +121,7 @@ TEST_F(PrefsLook, TheFolderCannotBeTyped) {
 
 TEST_F(PrefsLook, TheFolderIsSelectedWhenTheDialogOpens) {
     openOnGame();
-    EXPECT_EQ(forms::fromQt(box("Text1").selectedText()), "C:\\UT");
+    EXPECT_EQ(fromQt(box("Text1").selectedText()), "C:\\UT");
 }
 
 TEST_F(PrefsLook, DaysTakeThreeCharactersDigitsOrNot) {
@@ -158,8 +157,7 @@ TEST_F(PrefsLook, EveryControlHasANameForScreenReaders) {
     for (QWidget* widget : loaded()->findChildren<QWidget*>()) {
         if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible()) continue;
         QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
-        EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty())
-            << forms::fromQt(widget->objectName());
+        EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << fromQt(widget->objectName());
     }
 }
 
@@ -184,7 +182,7 @@ TEST_F(PrefsLook, TabLeadsThroughTheDialogFromTheTop) {
         QTest::keyClick(at, Qt::Key_Tab);
     }
     // Tab reaches a group of options at its first; the arrow keys go on from there.
-    EXPECT_EQ(forms::fromQt(way.join(QLatin1Char(' '))),
+    EXPECT_EQ(fromQt(way.join(QLatin1Char(' '))),
               "Text1 Command1 Check1 Check2 Check3 Option1 Option3 Text2 Command3 "
               "Check4 Option6 Text3 Command6 Command5 Command2 CommandX");
 }

@@ -11,8 +11,6 @@
 namespace tessaro::test {
 namespace {
 
-using forms::MainFrm;
-using forms::Prefs;
 using Names = std::vector<std::string>;
 
 const Message closeQuestion{"These settings are not valid. Close Tessaro?", "Preferences",
@@ -21,7 +19,7 @@ const Message closeQuestion{"These settings are not valid. Close Tessaro?", "Pre
 class PrefsStart : public PrefsFormFixture {
   protected:
     void start() {
-        forms::guarded(forms_, [this] { forms_.show<MainFrm>(); });
+        guarded(forms_, [this] { forms_.show<MainFrm>(); });
     }
     /// A first start: no settings file, and the game, if anywhere, not where it is looked for.
     void removeSettings() { std::filesystem::remove(world().at(settingsFile)); }
@@ -69,12 +67,12 @@ TEST_F(PrefsStart, AFirstStartLeadsToTheRightFolderInsideTheCheck) {
     dialogs().pick("");
     dialogs().answer(Answer::Ok);
     dialogs().pick("C:\\Games\\Unreal Tournament");
-    const WhenItComes splash([this] { return forms_.loaded<forms::splash>() != nullptr; },
-                             [this] { forms_.unload(*forms_.loaded<forms::splash>()); });
+    const WhenItComes splashComes([this] { return forms_.loaded<splash>() != nullptr; },
+                             [this] { forms_.unload(*forms_.loaded<splash>()); });
     start();
     EXPECT_EQ(dialogs().messages, (std::vector<Message>{refusal("C:\\Wrong"), refusal("")}));
     EXPECT_FALSE(prefsVisible());
-    EXPECT_TRUE(splash.acted()) << "The paths are good by the time they are tested";
+    EXPECT_TRUE(splashComes.acted()) << "The paths are good by the time they are tested";
     EXPECT_EQ(sounds(), (Names{"godlike"}));
     EXPECT_EQ(program_.gamePaths.UTSysPath, "C:\\Games\\Unreal Tournament\\system");
     EXPECT_TRUE(holds(settingsFile, "UTPath=C:\\UnrealTournament")) << "Nothing is saved yet";
@@ -102,7 +100,7 @@ TEST_F(PrefsStart, WithoutAGameTheDialogIsForcedAndNeitherSplashNorGreetingFollo
     start();
     EXPECT_TRUE(choose.acted());
     EXPECT_EQ(loaded(), nullptr);
-    EXPECT_EQ(forms_.loaded<forms::splash>(), nullptr);
+    EXPECT_EQ(forms_.loaded<splash>(), nullptr);
     EXPECT_EQ(sounds(), (Names{"ladvance"}));
     EXPECT_TRUE(forms_.loaded<MainFrm>()->isVisible());
     EXPECT_TRUE(holds(settingsFile, "UTPath=C:\\Right"));

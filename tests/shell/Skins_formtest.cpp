@@ -11,7 +11,7 @@
 #include "shell/Skinz.h"
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 const QColor designGround(64, 64, 64);
@@ -61,10 +61,12 @@ QImage pictureOn(const QLabel* label) {
 
 class SkinTest : public test::FormsTest {
   protected:
+    SkinTest() { forms_.add<BatchForm>(); }
+
     BatchForm& dressedIn(const char* skin) {
         program_.settings.Skin = skin;
         BatchForm& form = forms_.get<BatchForm>();
-        ApplySkin(forms_, form);
+        ApplySkin(program_, forms_, form);
         return form;
     }
 };
@@ -162,7 +164,7 @@ TEST_F(SkinTest, AFormWithoutTheFramesControlsIsDressedWithoutError) {
     QWidget form;
     QLineEdit box(&form);
     box.setObjectName(QStringLiteral("Text1"));
-    ApplySkin(forms_, form);
+    ApplySkin(program_, forms_, form);
     EXPECT_EQ(ground(&box), QColor(192, 0, 0));
 }
 
@@ -192,4 +194,4 @@ TEST_F(SkinTest, TheColoursAreReallyPainted) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -13,7 +13,7 @@ class MenusForm : public GameFormsTest {
   protected:
     MenusForm() { start(); }
     QMenu* menu(const char* name) {
-        return forms_.get<forms::MainFrm>().findChild<QMenu*>(QLatin1String(name));
+        return forms_.get<MainFrm>().findChild<QMenu*>(QLatin1String(name));
     }
     /// Captions of a menu's items, separators as "-".
     QStringList captions(const QList<QAction*>& actions) {
@@ -25,7 +25,7 @@ class MenusForm : public GameFormsTest {
 };
 
 TEST_F(MenusForm, BarHasFourMenusAndNotThePopUpMenu) {
-    EXPECT_EQ(captions(forms_.get<forms::MainFrm>().menuBar()->actions()),
+    EXPECT_EQ(captions(forms_.get<MainFrm>().menuBar()->actions()),
               (QStringList{"&File", "&Edit", "&Tools", "&Help"}));
 }
 

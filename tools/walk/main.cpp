@@ -17,7 +17,7 @@
 
 namespace {
 
-using namespace tessaro::forms;
+using namespace tessaro;
 
 constexpr int pollMilliseconds = 100;
 constexpr int mostPolls = 600;

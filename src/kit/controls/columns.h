@@ -5,7 +5,7 @@
 
 #include "kit/controls/listview.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Sets the widths of a list's columns, in letters of its font. A width of 0 takes what is left;
 /// its texts are cut in the middle, since paths tell most at their ends.
@@ -19,4 +19,4 @@ inline void setColumnWidths(ListView& list, std::initializer_list<int> letters) 
     }
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -8,7 +8,7 @@
 #include "kit/look/text.h"
 #include "platform/runtime/runtimeerror.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 QString driveText(char letter) {
@@ -62,4 +62,4 @@ void DriveList::wheelEvent(QWheelEvent* event) {
     hasFocus() ? QComboBox::wheelEvent(event) : event->ignore();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -6,7 +6,7 @@
 
 #include "platform/files/files.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The drives that are there, as "c:", and which of them is chosen.
 class DriveList : public QComboBox {
@@ -32,4 +32,4 @@ class DriveList : public QComboBox {
     void wheelEvent(QWheelEvent* event) override;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -9,7 +9,7 @@
 #include "kit/forms/handler.h"
 #include "kit/look/text.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 bool holdsFiles(const QMimeData& data) {
@@ -36,8 +36,8 @@ HostPath hostPathOf(const QUrl& url) {
 
 }  // namespace
 
-FileDrop::FileDrop(Forms& forms, QAbstractScrollArea& list, Handler handler)
-    : QObject(&list), forms_(forms), handler_(std::move(handler)) {
+FileDrop::FileDrop(Forms& forms, const Paths& paths, QAbstractScrollArea& list, Handler handler)
+    : QObject(&list), forms_(forms), paths_(paths), handler_(std::move(handler)) {
     list.setAcceptDrops(true);
     list.viewport()->installEventFilter(this);
 }
@@ -67,11 +67,12 @@ void FileDrop::answer(QDropEvent& event) const {
 }
 
 void FileDrop::take(const QMimeData& data) {
-    std::vector<std::string> paths;
+    std::vector<std::string> dropped;
     for (const QUrl& url : data.urls())
-        if (url.isLocalFile()) paths.push_back(forms_.program().paths.toGame(hostPathOf(url)));
+        if (url.isLocalFile()) dropped.push_back(paths_.toGame(hostPathOf(url)));
     QMetaObject::invokeMethod(
-        this, [this, paths] { guarded(forms_, [&] { handler_(paths); }); }, Qt::QueuedConnection);
+        this, [this, dropped] { guarded(forms_, [&] { handler_(dropped); }); },
+        Qt::QueuedConnection);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

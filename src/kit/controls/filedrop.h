@@ -6,8 +6,9 @@
 #include <vector>
 
 #include "kit/forms/forms.h"
+#include "platform/files/paths.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Lets files be dropped on a list, as file managers do it. Anything else is refused.
 class FileDrop : public QObject {
@@ -16,7 +17,7 @@ class FileDrop : public QObject {
     /// file manager waits for us.
     using Handler = std::function<void(const std::vector<std::string>&)>;
 
-    FileDrop(Forms& forms, QAbstractScrollArea& list, Handler handler);
+    FileDrop(Forms& forms, const Paths& paths, QAbstractScrollArea& list, Handler handler);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -24,7 +25,8 @@ class FileDrop : public QObject {
     void take(const QMimeData& data);
 
     Forms& forms_;
+    const Paths& paths_;
     Handler handler_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -9,7 +9,7 @@
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 constexpr int pathRole = Qt::UserRole;
@@ -136,4 +136,4 @@ std::vector<std::string> FolderList::foldersInside() const {
     return folders;
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -7,7 +7,7 @@
 
 #include "platform/files/files.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// A folder of a drive: the chain of folders that leads to it, and the folders in it. Double click
 /// and Enter open a folder, Backspace goes up. Hidden folders are left out.
@@ -44,4 +44,4 @@ class FolderList : public QTreeWidget {
     std::string path_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -2,7 +2,7 @@
 
 #include "kit/look/text.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 ListModel::ListModel(const ListItems& items, QObject* parent)
     : QAbstractTableModel(parent), items_(items), rows_(static_cast<int>(items.count())) {}
@@ -50,4 +50,4 @@ void ListModel::followTexts() {
     if (rows_ > 0) Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1));
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

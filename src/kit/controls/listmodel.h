@@ -4,7 +4,7 @@
 
 #include "platform/outside/listitems.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Lets a Qt view read a ListItems. Texts are read when they are painted; only the number of rows
 /// is kept, so that adding many rows stays cheap.
@@ -28,4 +28,4 @@ class ListModel : public QAbstractTableModel {
     int rows_ = 0;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

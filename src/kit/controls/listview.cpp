@@ -3,7 +3,7 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 ListView::ListView(QWidget* parent) : QTreeView(parent) {
     setRootIsDecorated(false);
@@ -83,4 +83,4 @@ void ListView::takeFromUser() {
     }
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -5,7 +5,7 @@
 
 #include "kit/controls/listmodel.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// A report list that shows a ListItems and keeps step with it both ways: rows, texts and
 /// highlight follow the items, the items' `selected` flags and selected item follow the user.
@@ -47,4 +47,4 @@ class ListView : public QTreeView {
     bool posted_ = false;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

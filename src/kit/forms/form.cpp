@@ -3,7 +3,7 @@
 #include "kit/forms/forms.h"
 #include "kit/forms/handler.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 void Form::closeByUser() {
     guarded(forms_, [this] { forms_.close(*this); });
@@ -13,4 +13,4 @@ bool Form::stillLoaded() const {
     return forms_.isLoaded(*this);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

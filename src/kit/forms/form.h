@@ -5,7 +5,7 @@
 #include <QString>
 #include <QWidget>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 class Forms;
 
@@ -65,4 +65,4 @@ class FormWindow : public WindowBase<Base>::type, public Form {
     }
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

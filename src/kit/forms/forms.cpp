@@ -8,7 +8,7 @@
 #include "kit/forms/modalloop.h"
 #include "platform/runtime/runtimeerror.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 Forms::~Forms() {
     // A window that hides itself at its end looks once more at lists that went before it.
@@ -27,17 +27,19 @@ Forms::Entry* Forms::find(const Form& form) const {
     return nullptr;
 }
 
-void Forms::load(std::type_index type, std::unique_ptr<Form> form) {
+Form& Forms::load(std::type_index type) {
     const Running running(*this);
+    std::unique_ptr<Form> form = makers_.at(type)();
     Form& loading = *form;
     // Known before its Load runs, since what Load calls may touch the form again.
     entries_.push_back(std::make_unique<Entry>(Entry{type, std::move(form)}));
     try {
         loading.Load();
     } catch (...) {
-        if (find(loading) != nullptr) release(loading);
+        if (find(loading) != nullptr) letGo(loading);
         throw;
     }
+    return loading;
 }
 
 void Forms::show(Form& form) {
@@ -77,11 +79,11 @@ void Forms::unload(Form& form) {
         failure = std::current_exception();
     }
     form.window().hide();
-    release(form);
+    letGo(form);
     if (failure) std::rethrow_exception(failure);
 }
 
-void Forms::release(Form& form) {
+void Forms::letGo(Form& form) {
     const auto entry = std::find_if(entries_.begin(), entries_.end(),
                                     [&](const auto& one) { return one->form.get() == &form; });
     unloaded_.push_back(std::move((*entry)->form));
@@ -117,4 +119,4 @@ void Forms::bury() {
     unloaded_.clear();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -1,32 +1,42 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
+#include <map>
 #include <memory>
 #include <typeindex>
 #include <vector>
 
-#include "core/program.h"
 #include "kit/forms/form.h"
 #include "kit/forms/programend.h"
+#include "platform/outside/dialogs.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
-/// The forms that are loaded, one instance of each. A form class has a constructor that takes
-/// `Forms&`.
+/// The forms of the program: which there are, and the one instance of each that is loaded. A form
+/// class has a constructor that takes `Forms&` first.
+///
+/// Owns the loaded forms; everything runs in the one thread of the windows.
 ///
 /// A form that was unloaded is no longer known here, but the object lives on until no handler runs
 /// any more, because handlers of that very form may be up the stack.
 class Forms {
   public:
-    Forms(Program& program, ProgramEnd& programEnd) : program_(program), end_(programEnd) {}
+    Forms(Dialogs& dialogs, ProgramEnd& programEnd) : dialogs_(dialogs), end_(programEnd) {}
     ~Forms();
     Forms(const Forms&) = delete;
     Forms& operator=(const Forms&) = delete;
 
-    Program& program() { return program_; }
+    Dialogs& dialogs() { return dialogs_; }
+
+    /// Makes a form class known, and what its constructor takes after `Forms&`.
+    template <class T, class... Parts>
+    void add(Parts&... parts) {
+        makers_[typeid(T)] = [this, &parts...] { return std::make_unique<T>(*this, parts...); };
+    }
 
     /// The instance; the first touch creates it and runs its Load. An error in Load destroys the
-    /// half-made form and passes on.
+    /// half-made form and passes on. The class must be known.
     template <class T>
     T& get();
     /// The instance if it is loaded, else null.
@@ -88,13 +98,14 @@ class Forms {
 
     Form* find(std::type_index type) const;
     Entry* find(const Form& form) const;
-    void load(std::type_index type, std::unique_ptr<Form> form);
-    void release(Form& form);
+    Form& load(std::type_index type);
+    void letGo(Form& form);
     void leave();
     void bury();
 
-    Program& program_;
+    Dialogs& dialogs_;
     ProgramEnd& end_;
+    std::map<std::type_index, std::function<std::unique_ptr<Form>()>> makers_;
     std::vector<std::unique_ptr<Entry>> entries_;
     std::vector<std::unique_ptr<Form>> unloaded_;
     int depth_ = 0;
@@ -110,10 +121,7 @@ T* Forms::loaded() {
 template <class T>
 T& Forms::get() {
     if (T* form = loaded<T>()) return *form;
-    auto made = std::make_unique<T>(*this);
-    T& form = *made;
-    load(typeid(T), std::move(made));
-    return form;
+    return static_cast<T&>(load(typeid(T)));
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

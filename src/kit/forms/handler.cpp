@@ -4,12 +4,12 @@
 
 #include "platform/runtime/runtimeerror.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 void report(Forms& forms, const std::string& text) {
     try {
-        forms.program().dialogs.message({text, "Ovrin Tessaro", Buttons::Ok, Icon::Stop});
+        forms.dialogs().message({text, "Ovrin Tessaro", Buttons::Ok, Icon::Stop});
     } catch (const ProgramEnded&) {  // a handler inside the report's loop was faster
     }
     forms.end();
@@ -30,4 +30,4 @@ void guarded(Forms& forms, const std::function<void()>& handler) {
     }
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

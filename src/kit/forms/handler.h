@@ -7,7 +7,7 @@
 
 #include "kit/forms/forms.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Runs a handler. What leaves it ends here: a run-time error is reported and ends the program;
 /// so does any other exception, which would be a defect of ours. Once the program was ended no
@@ -24,4 +24,4 @@ void on(Sender* sender, Signal signal, Forms& forms, Handler handler) {
             Handler&, decltype(arguments)...> { guarded(forms, [&] { handler(arguments...); }); });
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -4,7 +4,7 @@
 #include <QEvent>
 #include <QWindow>
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 /// Without an owner some desktops put a modal window behind the one that it blocks.
@@ -35,4 +35,4 @@ bool ModalLoop::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QWidget>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Makes a window application-modal while it lives, and waits for it to be hidden.
 class ModalLoop : public QObject {
@@ -22,4 +22,4 @@ class ModalLoop : public QObject {
     QEventLoop loop_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

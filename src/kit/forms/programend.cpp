@@ -2,11 +2,11 @@
 
 #include <QCoreApplication>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 void ProgramEnd::end() {
     ended_ = true;
     QCoreApplication::exit(0);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Unwinds the handlers that are still running once the program was ended outright. No error:
 /// nothing may report it.
@@ -22,4 +22,4 @@ class ProgramEnd {
     bool ended_ = false;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

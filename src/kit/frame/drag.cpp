@@ -5,7 +5,7 @@
 #include <QWindow>
 #include <optional>
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 /// Follows the mouse until the button is released, then removes itself.
@@ -55,4 +55,4 @@ void DragForm(QWidget& form) {
     new Drag(form);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

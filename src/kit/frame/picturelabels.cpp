@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 void PlateLabel::paintEvent(QPaintEvent*) {
     const QPixmap picture = pixmap(Qt::ReturnByValue);
@@ -20,4 +20,4 @@ void PlateLabel::paintEvent(QPaintEvent*) {
                        QRectF(from + middle, 0, from, picture.height()));
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

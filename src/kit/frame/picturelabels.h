@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// A bar of a window's frame: its picture is stretched along it, whatever the size.
 class BarLabel : public QLabel {
@@ -27,4 +27,4 @@ class PlateLabel : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

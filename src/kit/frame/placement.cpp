@@ -3,7 +3,7 @@
 #include <QVariant>
 #include <algorithm>
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 constexpr char shiftProperty[] = "shift";
@@ -26,4 +26,4 @@ QRect fittedInto(const QRect& screen, const QRect& window) {
     return {QPoint(left, top), size};
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -3,7 +3,7 @@
 #include <QRect>
 #include <QWidget>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Moves a control to the middle of the form's width and `shift` pixels right of it. The control
 /// remembers the shift.
@@ -14,4 +14,4 @@ void centreAcross(const QWidget& form, QWidget& control);
 /// `window` moved, and shrunk if it must be, so that it lies within `screen`.
 QRect fittedInto(const QRect& screen, const QRect& window);
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

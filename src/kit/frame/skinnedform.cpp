@@ -13,7 +13,7 @@
 #include "kit/look/style.h"
 #include "kit/look/text.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 constexpr int border = 1;  // a line, so that the form stands out from any desktop
@@ -189,4 +189,4 @@ void SkinnedForm::placeTitle() {
     centreAcross(*this, *Title);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -7,7 +7,7 @@
 #include "kit/forms/form.h"
 #include "kit/forms/forms.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// What of a form's frame moves the form.
 enum class DragBy { PlateAndTitle, Plate, Nothing };
@@ -77,4 +77,4 @@ class SkinnedForm : public FormWindow<QDialog> {
     QWidget* content_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

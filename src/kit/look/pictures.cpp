@@ -6,7 +6,7 @@
 
 #include "kit/look/resources.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 QPixmap readPng(const QString& file) {
@@ -26,4 +26,4 @@ QPixmap programPicture(const QString& file) {
     return picture;
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

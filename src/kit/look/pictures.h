@@ -3,7 +3,7 @@
 #include <QPixmap>
 #include <QString>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// A picture of the program's resources by its file, such as ":/pictures/topimg.png"; its "@2x"
 /// twin on a finer screen, if there is one.
@@ -12,4 +12,4 @@ namespace tessaro::forms {
 /// system first, which the start of the program would pay for.
 QPixmap programPicture(const QString& file);
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

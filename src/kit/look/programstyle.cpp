@@ -2,7 +2,7 @@
 
 #include "kit/look/pictures.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 QIcon ProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
                                  const QWidget* widget) const {
@@ -12,4 +12,4 @@ QIcon ProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option
     return QIcon(programPicture(folder + QStringLiteral("toolbar-ext-h-16.png")));
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -2,7 +2,7 @@
 
 #include <QProxyStyle>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Fusion, whatever the desktop, but for one icon that every menu bar asks for at its birth: Qt
 /// would load all picture libraries of the system to look at it, before the first paint.
@@ -13,4 +13,4 @@ class ProgramStyle : public QProxyStyle {
                        const QWidget* widget) const override;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

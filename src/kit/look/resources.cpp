@@ -7,11 +7,11 @@ static void initResources() {
     Q_INIT_RESOURCE(tessaro);
 }
 
-namespace tessaro::forms {
+namespace tessaro {
 
 void loadResources() {
     static const bool loaded = (initResources(), true);
     (void)loaded;
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -11,7 +11,7 @@
 #include "kit/look/pictures.h"
 #include "kit/look/programstyle.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 /// A colour, the same in both states of a window, and the one of disabled controls.
@@ -113,4 +113,4 @@ void dressFields(QWidget& form) {
         if (isField(*widget)) setFieldGround(*widget, fieldGround);
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

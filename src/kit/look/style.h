@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Names, icon, style and colours of the program. Style and colours are fixed, so that a desktop
 /// with a dark scheme does not leave dark letters on a dark ground.
@@ -17,4 +17,4 @@ void setFieldGround(QWidget& field, const QColor& ground);
 /// Gives every list and text box inside `form` its design look, before a skin colours it.
 void dressFields(QWidget& form);
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -6,7 +6,7 @@
 
 #include "platform/files/host.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The program's texts are UTF-8, Qt's are not; these are the two ways across.
 inline QString toQt(std::string_view text) {
@@ -21,4 +21,4 @@ inline HostPath hostPathFromQt(const QString& path) {
     return HostPath(std::u8string(bytes.begin(), bytes.end()));
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace tessaro::forms {
+namespace tessaro {
 
 inline constexpr double twipsPerPixel = 15;
 
@@ -15,4 +15,4 @@ inline double twips(int pixels) {
     return pixels * twipsPerPixel;
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

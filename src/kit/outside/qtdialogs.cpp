@@ -9,7 +9,7 @@
 
 #include "kit/look/text.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 /// What a set of buttons is made of. Enter presses the first button, Esc the last resort.
@@ -114,4 +114,4 @@ std::string QtDialogs::pickFolder(const std::string& prompt) {
     return paths_.toGame(hostPathFromQt(box.selectedFiles().constFirst()));
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

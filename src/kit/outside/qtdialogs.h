@@ -4,7 +4,7 @@
 #include "platform/files/paths.h"
 #include "platform/outside/dialogs.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The program's boxes. This is the only unit that shows any. Their object names are "messageBox",
 /// "inputBox" and "folderPicker". Texts are shown as they are, never read as markup.
@@ -23,4 +23,4 @@ class QtDialogs : public Dialogs {
     Paths paths_;  // turns what the picker gives into the game's form, nothing else
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -6,7 +6,7 @@
 #include <QTime>
 #include <QTimer>
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 constexpr int idleMilliseconds = 5;
@@ -60,7 +60,7 @@ void QtEvents::pump() {
     end_.throwIfEnded();
 }
 
-void QtEvents::repaint() {
+void QtEvents::serveWhileBlocked() {
     InputFilter filter(end_);
     QCoreApplication::instance()->installEventFilter(&filter);
     QEventLoop().processEvents(QEventLoop::AllEvents);
@@ -71,4 +71,4 @@ double QtEvents::secondsSinceMidnight() {
     return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -3,7 +3,7 @@
 #include "kit/forms/programend.h"
 #include "platform/outside/events.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// The events and the clock of the running program.
 class QtEvents : public Events {
@@ -18,10 +18,10 @@ class QtEvents : public Events {
     /// Lets the windows paint while a child process runs. What the user presses meanwhile is lost
     /// on purpose: it was meant for a window that could not answer. The end of the desktop's
     /// session ends the program outright.
-    void repaint();
+    void serveWhileBlocked();
 
   private:
     ProgramEnd& end_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

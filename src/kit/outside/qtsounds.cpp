@@ -13,7 +13,7 @@
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/utf8.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 // Time for a window that has just been shown to paint itself: its screen's answer comes through the
@@ -87,4 +87,4 @@ void QtSounds::playNext() {
     effect_->play();
 }
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -8,7 +8,7 @@
 
 class QSoundEffect;
 
-namespace tessaro::forms {
+namespace tessaro {
 
 /// Plays the program's sounds from its resources. Without a sound device it is silent.
 ///
@@ -35,4 +35,4 @@ class QtSounds : public Sounds {
     QObject later_;
 };
 
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -9,7 +9,7 @@
 #include "kit/look/style.h"
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 class DriveLists : public ::testing::Test {
@@ -67,4 +67,4 @@ TEST_F(DriveLists, AWheelTurnWithoutFocusChangesNothing) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

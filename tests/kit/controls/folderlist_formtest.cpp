@@ -8,7 +8,7 @@
 
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using ::testing::ElementsAre;
@@ -135,4 +135,4 @@ TEST_F(FolderLists, AFolderThatHasGoneLeavesTheListAsItIs) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -8,7 +8,7 @@
 
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using test::serveEvents;
@@ -179,4 +179,4 @@ TEST(ListViewLife, TheViewMayOutliveItsItemsAsInAForm) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -9,7 +9,7 @@
 #include "platform/runtime/runtimeerror.h"
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using ::testing::ElementsAre;
@@ -76,4 +76,4 @@ TEST_F(Handlers, ATimersPrivateSignalCanBeHandled) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -10,7 +10,7 @@
 #include "platform/runtime/runtimeerror.h"
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using test::serveEvents;
@@ -22,7 +22,11 @@ std::vector<std::string> events;
 
 class FormRegistry : public test::FormsTest {
   protected:
-    FormRegistry() { events.clear(); }
+    FormRegistry() {
+        events.clear();
+        addForms();
+    }
+    void addForms();
 };
 
 /// Writes its life down. `number` tells form classes apart.
@@ -69,6 +73,14 @@ class MainWindowForm : public FormWindow<QMainWindow> {
     explicit MainWindowForm(Forms& forms) : FormWindow(forms) {}
     void Unload() override { forms().UnloadAllForms(); }
 };
+
+void FormRegistry::addForms() {
+    forms_.add<First>();
+    forms_.add<Second>();
+    forms_.add<FailsInLoad>();
+    forms_.add<TouchesItself>();
+    forms_.add<MainWindowForm>();
+}
 
 TEST_F(FormRegistry, TheFirstTouchMakesAndLoadsAFormAndLaterOnesGiveTheSame) {
     EXPECT_EQ(forms_.loaded<First>(), nullptr);
@@ -278,4 +290,4 @@ TEST_F(FormRegistry, AProgramThatEndedAtItsStartDoesNotRun) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

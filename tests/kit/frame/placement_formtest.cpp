@@ -4,7 +4,7 @@
 
 #include <QScreen>
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 TEST(Placement, CentresAcrossAndALittleAboveTheMiddle) {
@@ -24,4 +24,4 @@ TEST(Placement, KeepsTheTopOfATallFormWithinReach) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

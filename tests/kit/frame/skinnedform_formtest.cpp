@@ -10,7 +10,7 @@
 #include "kit/frame/placement.h"
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 /// Stands in for what a Designer file makes.
@@ -46,6 +46,11 @@ class FixedTool : public Tool {
 
 class SkinnedForms : public test::FormsTest {
   protected:
+    SkinnedForms() {
+        forms_.add<Tool>();
+        forms_.add<PlateTool>();
+        forms_.add<FixedTool>();
+    }
     template <class T = Tool>
     T& shown() {
         forms_.show<T>();
@@ -208,4 +213,4 @@ TEST(FittedInto, AWindowLargerThanTheScreenShrinks) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

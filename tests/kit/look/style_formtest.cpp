@@ -8,7 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 TEST(ProgramStyle, IsFixedAndDoesNotFollowTheDesktop) {
@@ -54,4 +54,4 @@ TEST(FieldGround, IsReallyPaintedOnADropDownList) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

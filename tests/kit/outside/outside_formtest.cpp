@@ -16,7 +16,7 @@
 #include "kit/outside/qtsounds.h"
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using RealEvents = test::FormsTest;
@@ -77,7 +77,7 @@ class RepaintDuringAChild : public test::FormsTest {
             acted = true;
             act();
         });
-        while (!acted) events_.repaint();
+        while (!acted) events_.serveWhileBlocked();
     }
     void useEverything() {
         QTest::mouseClick(&window_.button, Qt::LeftButton);
@@ -97,7 +97,7 @@ class RepaintDuringAChild : public test::FormsTest {
 TEST_F(RepaintDuringAChild, LetsWindowsPaint) {
     const int before = window_.paints;
     window_.update();
-    while (window_.paints == before) events_.repaint();
+    while (window_.paints == before) events_.serveWhileBlocked();
     EXPECT_GT(window_.paints, before);
 }
 
@@ -109,7 +109,7 @@ TEST_F(RepaintDuringAChild, LosesClicksKeysAndMenus) {
 }
 
 TEST_F(RepaintDuringAChild, InputCountsAgainAfterwards) {
-    events_.repaint();
+    events_.serveWhileBlocked();
     useEverything();
     EXPECT_EQ(window_.clicks, 2);
     EXPECT_EQ(window_.box.text(), QStringLiteral("typedcomposed"));
@@ -129,7 +129,7 @@ TEST_F(RepaintDuringAChild, AnEndOfTheProgramLeavesTheWait) {
 
 TEST_F(RepaintDuringAChild, TheEndOfTheDesktopsSessionEndsTheProgram) {
     QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit));
-    EXPECT_THROW(events_.repaint(), ProgramEnded);
+    EXPECT_THROW(events_.serveWhileBlocked(), ProgramEnded);
     EXPECT_TRUE(end_.ended());
 }
 
@@ -185,4 +185,4 @@ TEST(Twips, FifteenMakeAPixel) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -11,7 +11,7 @@
 
 #include "support/forms/formsfixture.h"
 
-namespace tessaro::forms {
+namespace tessaro {
 namespace {
 
 using test::visibleWindow;
@@ -127,4 +127,4 @@ TEST_F(FolderPicker, GivesAnEmptyTextWhenCancelled) {
 }
 
 }  // namespace
-}  // namespace tessaro::forms
+}  // namespace tessaro

@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "app/tools.h"
 #include "kit/forms/forms.h"
 #include "support/testprogram.h"
 
@@ -24,8 +25,9 @@ class FormsTest : public ::testing::Test {
 
     TestProgram world_;
     Program& program_ = world_.program;
-    forms::ProgramEnd end_;
-    forms::Forms forms_{program_, end_};
+    ProgramEnd end_;
+    Forms forms_{world_.dialogs, end_};
+    Tools tools_{forms_, program_};
 };
 
 /// Serves what is pending.
@@ -60,7 +62,7 @@ Window* visibleWindow(const char* name) {
 
 /// A control of a form by its name.
 template <class Control>
-Control& control(forms::Form& form, const char* name) {
+Control& control(Form& form, const char* name) {
     auto* found = form.window().findChild<Control*>(QLatin1String(name));
     if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
     return *found;

@@ -24,12 +24,12 @@ class GameFormsTest : public FormsTest {
 
     void settings(const std::string& text) { disk_.write("C:\\Tessaro\\vornx.ini", text); }
     std::string savedSettings() { return disk_.read("C:\\Tessaro\\vornx.ini"); }
-    forms::MainFrm& start() {
-        forms::guarded(forms_, [this] { forms_.show<forms::MainFrm>(); });
-        return forms_.get<forms::MainFrm>();
+    MainFrm& start() {
+        guarded(forms_, [this] { forms_.show<MainFrm>(); });
+        return forms_.get<MainFrm>();
     }
     QAction& menuItem(const char* name) {
-        return *forms_.get<forms::MainFrm>().findChild<QAction*>(QLatin1String(name));
+        return *forms_.get<MainFrm>().findChild<QAction*>(QLatin1String(name));
     }
 
     TestWorld& disk_ = world_.world;

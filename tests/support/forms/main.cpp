@@ -28,6 +28,6 @@ int main(int argc, char** argv) {
     const QTemporaryDir settings;
     isolate(settings);
     QApplication application(argc, argv);
-    tessaro::forms::applyProgramStyle(application);
+    tessaro::applyProgramStyle(application);
     return RUN_ALL_TESTS();
 }
