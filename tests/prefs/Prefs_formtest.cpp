@@ -8,7 +8,6 @@
 namespace tessaro::test {
 namespace {
 
-
 const Message saveQuestion{"The Current Settings have not yet been saved, Do you wish to save?",
                            "Save Settings?", Buttons::YesNoCancel, Icon::None};
 const Message closeQuestion{"These settings are not valid. Close Tessaro?", "Preferences",
