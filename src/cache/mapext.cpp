@@ -6,7 +6,7 @@
 #include "core/VORNX.h"
 #include "core/centerform.h"
 #include "core/routines.h"
-#include "kit/controls/columns.h"
+#include "kit/controls/listview.h"
 #include "kit/forms/handler.h"
 #include "kit/look/text.h"
 #include "platform/runtime/runtimeerror.h"

@@ -1,7 +1,6 @@
 #include "compress/batchform.h"
 
 #include "core/centerform.h"
-#include "kit/controls/columns.h"
 #include "kit/forms/handler.h"
 #include "kit/look/text.h"
 #include "shell/Skins.h"

@@ -1,7 +1,6 @@
 #include "compress/dropform.h"
 
 #include "core/centerform.h"
-#include "kit/controls/columns.h"
 #include "kit/controls/filedrop.h"
 #include "kit/forms/handler.h"
 #include "shell/Skins.h"

@@ -83,4 +83,14 @@ void ListView::takeFromUser() {
     }
 }
 
+void setColumnWidths(ListView& list, std::initializer_list<int> letters) {
+    list.setTextElideMode(Qt::ElideMiddle);
+    list.header()->setStretchLastSection(false);
+    int column = 0;
+    for (const int count : letters) {
+        if (count == 0) list.header()->setSectionResizeMode(column, QHeaderView::Stretch);
+        list.header()->resizeSection(column++, count * list.fontMetrics().averageCharWidth());
+    }
+}
+
 }  // namespace tessaro

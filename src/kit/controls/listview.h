@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QTreeView>
+#include <initializer_list>
 
 #include "kit/controls/listmodel.h"
 
@@ -46,5 +47,9 @@ class ListView : public QTreeView {
     bool following_ = false;  // the view changes because the items did
     bool posted_ = false;
 };
+
+/// Sets the widths of a list's columns, in letters of its font. A width of 0 takes what is left;
+/// its texts are cut in the middle, since paths tell most at their ends.
+void setColumnWidths(ListView& list, std::initializer_list<int> letters);
 
 }  // namespace tessaro

@@ -4,7 +4,10 @@
 #include <QGuiApplication>
 #include <QImageReader>
 
-#include "kit/look/resources.h"
+// Outside every namespace, as the macro declares a function of the resource compiler.
+static void initResources() {
+    Q_INIT_RESOURCE(tessaro);
+}
 
 namespace tessaro {
 namespace {
@@ -16,6 +19,11 @@ QPixmap readPng(const QString& file) {
 }
 
 }  // namespace
+
+void loadResources() {
+    static const bool loaded = (initResources(), true);
+    (void)loaded;
+}
 
 QPixmap programPicture(const QString& file) {
     loadResources();

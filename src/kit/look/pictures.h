@@ -12,4 +12,8 @@ namespace tessaro {
 /// system first, which the start of the program would pay for.
 QPixmap programPicture(const QString& file);
 
+/// Makes the program's resources known to Qt. A static library has to ask for its own; whoever
+/// reads one past `programPicture` calls this first, as often as it likes.
+void loadResources();
+
 }  // namespace tessaro

@@ -6,13 +6,28 @@
 #include <QIcon>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProxyStyle>
 #include <QTextEdit>
 
 #include "kit/look/pictures.h"
-#include "kit/look/programstyle.h"
 
 namespace tessaro {
 namespace {
+
+/// Fusion, whatever the desktop, but for one icon that every menu bar asks for at its birth: Qt
+/// would load all picture libraries of the system to look at it, before the first paint.
+class ProgramStyle : public QProxyStyle {
+  public:
+    ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        if (icon != SP_ToolBarHorizontalExtensionButton)
+            return QProxyStyle::standardIcon(icon, option, widget);
+        const QString folder = QStringLiteral(":/qt-project.org/styles/commonstyle/images/");
+        return QIcon(programPicture(folder + QStringLiteral("toolbar-ext-h-16.png")));
+    }
+};
 
 /// A colour, the same in both states of a window, and the one of disabled controls.
 struct RoleColour {

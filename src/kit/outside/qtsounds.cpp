@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "kit/look/resources.h"
+#include "kit/look/pictures.h"
 #include "kit/look/text.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/utf8.h"
