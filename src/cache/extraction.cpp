@@ -1,13 +1,13 @@
 #include "cache/extraction.h"
 
 #include "core/VORNX.h"
+#include "core/gamefiles.h"
 #include "core/routines.h"
 #include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 namespace {
 
-constexpr int indexFileNumber = 1;
 constexpr double secondsPerFile = 0.1;
 
 }  // namespace
@@ -27,7 +27,7 @@ void Extraction::run(const std::string& cacheFolder) {
     entry.EFile = 0;
     entry.linecnt = 1;
     entry.linecnt2 = 1;
-    if (announceMissingIndex(cacheFolder + "\\cache.ini")) return;
+    if (announceMissingIndex(cacheIndexIn(cacheFolder))) return;
     if (!extractUntilStopped(cacheFolder)) askToClose();
 }
 
@@ -55,10 +55,10 @@ bool Extraction::announceMissingIndex(const std::string& index) {
 /// counter past its width, the index closed by the form's end) leads to the closing question
 /// without a word of it, also when it comes after the press on "&Stop".
 bool Extraction::extractUntilStopped(const std::string& cacheFolder) {
-    attempt([&] { program_.table.openInput(indexFileNumber, cacheFolder + "\\cache.ini"); });
+    attempt([&] { program_.table.openInput(sharedFileNumber, cacheIndexIn(cacheFolder)); });
     bool stopped = false;
     attempt([&] {
-        while (!stopped && !program_.table.endOfFile(indexFileNumber)) {
+        while (!stopped && !program_.table.endOfFile(sharedFileNumber)) {
             pass(cacheFolder);
             observer_.show(ExtractionBox::Existing, std::to_string(entry.EFile));
             stopped = observer_.stopped();
@@ -68,7 +68,7 @@ bool Extraction::extractUntilStopped(const std::string& cacheFolder) {
 }
 
 void Extraction::pass(const std::string& cacheFolder) {
-    entry.InputData = program_.table.lineInput(indexFileNumber);
+    entry.InputData = program_.table.lineInput(sharedFileNumber);
     if (isSkippedLine(entry.InputData)) return;
     entry.cfile = cachedFileOf(cacheFolder, entry.InputData);
     if (program_.files.firstMatch(entry.cfile, attributes::Normal).empty()) {
@@ -147,7 +147,7 @@ void Extraction::sortBy(int column) {
 }
 
 void Extraction::closeIndex() {
-    attempt([&] { program_.table.close(indexFileNumber); });
+    attempt([&] { program_.table.close(sharedFileNumber); });
 }
 
 }  // namespace tessaro

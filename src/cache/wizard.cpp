@@ -1,5 +1,7 @@
 #include "cache/wizard.h"
 
+#include "core/gamefiles.h"
+#include "core/iniCalls.h"
 #include "core/routines.h"
 #include "platform/runtime/runtimeerror.h"
 
@@ -14,16 +16,17 @@ bool cacheFolderIsValid(Program& program, std::string_view folderText,
 
 void loadExtractDest(Program& program, clsINI& phile) {
     phile.inifile(program.settingsFile());
-    program.settings.ExtractDest = phile.getKeyValue("VORNX", "C:\\UTMaps", "Common");
+    using namespace extractdestination;
+    program.settings.ExtractDest = phile.getKeyValue(key, firstFolder, section);
 }
 
 void saveExtractDest(Program& program, clsINI& phile, std::string_view destination) {
     phile.inifile(program.settingsFile());
-    phile.setKeyValue("VORNX", destination, "Common");
+    phile.setKeyValue(extractdestination::key, destination, extractdestination::section);
 }
 
 void rememberCacheFolder(Program& program, const std::string& chosenFolder) {
-    if (FileExists(program, chosenFolder + "\\cache.ini") == Yes) {
+    if (FileExists(program, cacheIndexIn(chosenFolder)) == Yes) {
         program.gamePaths.UTMapPath = chosenFolder;
     }
 }

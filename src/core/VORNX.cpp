@@ -1,12 +1,10 @@
 #include "core/VORNX.h"
 
+#include "core/gamefiles.h"
 #include "core/routines.h"
 
 namespace tessaro {
 namespace {
-
-// The number under which the extractor opens the index too: the two must not overlap.
-constexpr int indexFileNumber = 1;
 
 Int16 countLines(FileTable& table, int number) {
     Int16 lines;
@@ -26,9 +24,9 @@ const char* soundFor(int lines) {
 }  // namespace
 
 void AnnounceCacheSize(Program& program) {
-    program.table.openInput(indexFileNumber, program.gamePaths.UTCachePath + "\\cache.ini");
-    const Int16 lines = countLines(program.table, indexFileNumber);
-    program.table.close(indexFileNumber);
+    program.table.openInput(sharedFileNumber, cacheIndexIn(program.gamePaths.UTCachePath));
+    const Int16 lines = countLines(program.table, sharedFileNumber);
+    program.table.close(sharedFileNumber);
     if (program.soundsOn()) PlaySoundResource(program, soundFor(lines));
     program.events.pump();
 }

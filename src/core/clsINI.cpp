@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/gamefiles.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
@@ -15,10 +16,8 @@ constexpr std::string_view notSet = "<not_set>";
 constexpr std::string_view versionKey = "version";
 constexpr std::string_view firstVersion = "1.0";
 constexpr std::string_view suffix = ".ini";
-constexpr std::string_view settingsName = "\\vornx.ini";
 constexpr std::size_t valueSize = 255;
 constexpr std::size_t listingSize = 1024;
-constexpr int touchNumber = 1;
 constexpr char separator = '\0';
 
 // The listing without the NUL behind its last name. A listing that was cut ends in no NUL and loses
@@ -51,7 +50,7 @@ clsINI::clsINI(ProfileCalls& profile, FileTable& files, ProgramFile program)
     setDefaultINIFilePath();
     // A whole path, although it names a section: `getVersion` leaves it in the file as such until
     // `inifile` is assigned.
-    defaultSectionName = program_.folder + std::string(settingsName);
+    defaultSectionName = program_.settingsFile();
     sectionName = defaultSectionName;
 }
 
@@ -195,8 +194,8 @@ void clsINI::renameKey(std::string_view currentKey, std::string_view NewKey,
 // Always the object's own file, also in a call that names another: a foreign file is not created by
 // reading it, and the own one is.
 void clsINI::ensureIniFile() {
-    files_.openAppend(touchNumber, inifile_);
-    files_.close(touchNumber);
+    files_.openAppend(sharedFileNumber, inifile_);
+    files_.close(sharedFileNumber);
 }
 
 std::string clsINI::fileNameOf(std::string_view path) {

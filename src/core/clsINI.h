@@ -13,6 +13,9 @@ namespace tessaro {
 struct ProgramFile {
     std::string folder;
     std::string name;
+
+    /// The program's settings, beside it.
+    std::string settingsFile() const { return folder + "\\vornx.ini"; }
 };
 
 /// The one door to profile-style text files: the program's own settings and the game's INI files.

@@ -39,7 +39,8 @@ constexpr TextOption beforeRunCount[] = {
 };
 constexpr TextOption afterRunCount[] = {
     {"Misc", "Skin", "0", settingField<&ProgramSettings::Skin>},
-    {"Common", "VORNX", "C:\\UTMaps", settingField<&ProgramSettings::ExtractDest>},
+    {extractdestination::section, extractdestination::key, extractdestination::firstFolder,
+     settingField<&ProgramSettings::ExtractDest>},
     {"Common", "DefUser", "Player", settingField<&ProgramSettings::DefUser>},
     // Short on purpose: what the file gets, not a font family's whole name.
     {"Common", "ASCIIFont", "MS Sans", settingField<&ProgramSettings::ASCIIFont>},
@@ -85,38 +86,38 @@ void SaveSettings(Program& program) {
     save(program, afterRunCount);
 }
 
-void SettingsToPrefs(const Program& program, PrefsControls& controls) {
+void SettingsToPrefs(const Program& program, PrefsOptions& controls) {
     const ProgramSettings& settings = program.settings;
-    controls.Text1 = program.gamePaths.UTPath;
-    controls.Check1 = toInteger(settings.Sounds);
-    controls.Check2 = toInteger(settings.AutoSave);
-    controls.Text5 = settings.ExtractDest;
-    controls.Text6 = settings.DefUser;
-    controls.Text7 = settings.ASCIIFont;
-    controls.Check3 = toInteger(settings.ShowSplash);
-    controls.Option3 = equalsNumber(settings.Skin, 0);
-    controls.Option4 = equalsNumber(settings.Skin, 1);
-    controls.Option5 = equalsNumber(settings.Skin, 2);
+    controls.gameFolder = program.gamePaths.UTPath;
+    controls.sounds = toInteger(settings.Sounds);
+    controls.autoSave = toInteger(settings.AutoSave);
+    controls.extractDest = settings.ExtractDest;
+    controls.defUser = settings.DefUser;
+    controls.asciiFont = settings.ASCIIFont;
+    controls.showSplash = toInteger(settings.ShowSplash);
+    controls.firstSkin = equalsNumber(settings.Skin, 0);
+    controls.secondSkin = equalsNumber(settings.Skin, 1);
+    controls.thirdSkin = equalsNumber(settings.Skin, 2);
 }
 
-void PrefsToSettings(Program& program, const PrefsControls& controls) {
+void PrefsToSettings(Program& program, const PrefsOptions& controls) {
     GamePaths& paths = program.gamePaths;
-    paths.UTPath = controls.Text1;
+    paths.UTPath = controls.gameFolder;
     // Derived, never taken from their own keys, and in lower case unlike the defaults.
     paths.UTCachePath = paths.UTPath + "\\cache";
     paths.UTMapPath = paths.UTPath + "\\maps";
     paths.UTSysPath = paths.UTPath + "\\system";
 
     ProgramSettings& settings = program.settings;
-    settings.Sounds = std::to_string(controls.Check1);
-    settings.AutoSave = std::to_string(controls.Check2);
-    settings.ExtractDest = controls.Text5;
-    settings.DefUser = controls.Text6;
-    settings.ASCIIFont = controls.Text7;
-    settings.ShowSplash = std::to_string(controls.Check3);
-    if (controls.Option3) settings.Skin = "0";
-    if (controls.Option4) settings.Skin = "1";
-    if (controls.Option5) settings.Skin = "2";
+    settings.Sounds = std::to_string(controls.sounds);
+    settings.AutoSave = std::to_string(controls.autoSave);
+    settings.ExtractDest = controls.extractDest;
+    settings.DefUser = controls.defUser;
+    settings.ASCIIFont = controls.asciiFont;
+    settings.ShowSplash = std::to_string(controls.showSplash);
+    if (controls.firstSkin) settings.Skin = "0";
+    if (controls.secondSkin) settings.Skin = "1";
+    if (controls.thirdSkin) settings.Skin = "2";
 }
 
 }  // namespace tessaro

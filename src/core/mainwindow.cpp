@@ -1,4 +1,5 @@
 #include "core/mainwindow.h"
+#include "core/gamefiles.h"
 
 #include "core/iniCalls.h"
 #include "core/routines.h"
@@ -62,7 +63,7 @@ void unloadMainWindow(Program& program, MainWindow& window) {
 }
 
 std::string playerName(clsINI& INI, const GamePaths& paths) {
-    INI.inifile(paths.UTSysPath + "\\user.ini");
+    INI.inifile(userIniIn(paths.UTSysPath));
     return INI.getKeyValue("Name", "Player", "DefaultPlayer");
 }
 

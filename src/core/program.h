@@ -73,7 +73,7 @@ class Program {
     /// A form's own instance.
     clsINI makeINI() { return {profile, table, file}; }
     /// The program's settings file, `vornx.ini` in the program's folder.
-    std::string settingsFile() const { return file.folder + "\\vornx.ini"; }
+    std::string settingsFile() const { return file.settingsFile(); }
     /// The gate before every sound. Raises 13 if the setting is no number.
     bool soundsOn() const;
 };

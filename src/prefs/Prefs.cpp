@@ -27,9 +27,9 @@ int checkValue(const QCheckBox& box) {
 }
 
 StartMap selectedMap(const Ui::PrefsContent& ui) {
-    if (ui.Option6->isChecked()) return StartMap::Option6;
-    if (ui.Option7->isChecked()) return StartMap::Option7;
-    if (ui.Option8->isChecked()) return StartMap::Option8;
+    if (ui.Option6->isChecked()) return StartMap::Custom;
+    if (ui.Option7->isChecked()) return StartMap::BlackLogo;
+    if (ui.Option8->isChecked()) return StartMap::Flyby;
     return StartMap::None;
 }
 
@@ -112,7 +112,7 @@ void Prefs::showTimesUsed(int count) {
     ui_->cntlbl->setText(QString::number(count));
 }
 
-PrefsControls Prefs::options() {
+PrefsOptions Prefs::options() {
     return {folder(),
             checkValue(*ui_->Check1),
             checkValue(*ui_->Check2),
@@ -125,17 +125,17 @@ PrefsControls Prefs::options() {
             ui_->Option5->isChecked()};
 }
 
-void Prefs::showOptions(const PrefsControls& options) {
-    showFolder(options.Text1);
-    setCheckValue(*ui_->Check1, options.Check1);
-    setCheckValue(*ui_->Check2, options.Check2);
-    setCheckValue(*ui_->Check3, options.Check3);
-    ui_->Text5->setText(toQt(options.Text5));
-    ui_->Text6->setText(toQt(options.Text6));
-    ui_->Text7->setText(toQt(options.Text7));
-    ui_->Option3->setChecked(options.Option3);
-    ui_->Option4->setChecked(options.Option4);
-    ui_->Option5->setChecked(options.Option5);
+void Prefs::showOptions(const PrefsOptions& options) {
+    showFolder(options.gameFolder);
+    setCheckValue(*ui_->Check1, options.sounds);
+    setCheckValue(*ui_->Check2, options.autoSave);
+    setCheckValue(*ui_->Check3, options.showSplash);
+    ui_->Text5->setText(toQt(options.extractDest));
+    ui_->Text6->setText(toQt(options.defUser));
+    ui_->Text7->setText(toQt(options.asciiFont));
+    ui_->Option3->setChecked(options.firstSkin);
+    ui_->Option4->setChecked(options.secondSkin);
+    ui_->Option5->setChecked(options.thirdSkin);
 }
 
 GameTweaks Prefs::tweaks() {
@@ -144,16 +144,16 @@ GameTweaks Prefs::tweaks() {
 }
 
 void Prefs::showTweaks(const GameTweaks& tweaks) {
-    ui_->Text3->setText(toQt(tweaks.Text3));
-    ui_->Option6->setChecked(tweaks.startMap == StartMap::Option6);
-    ui_->Option7->setChecked(tweaks.startMap == StartMap::Option7);
-    ui_->Option8->setChecked(tweaks.startMap == StartMap::Option8);
+    ui_->Text3->setText(toQt(tweaks.mapName));
+    ui_->Option6->setChecked(tweaks.startMap == StartMap::Custom);
+    ui_->Option7->setChecked(tweaks.startMap == StartMap::BlackLogo);
+    ui_->Option8->setChecked(tweaks.startMap == StartMap::Flyby);
     // Three characters can be typed. A longer number in the game's file stays whole, and is
     // written back whole, until the user edits it.
-    const QString days = toQt(tweaks.Text2);
+    const QString days = toQt(tweaks.purgeDays);
     ui_->Text2->setMaxLength(std::max(mostDigitsOfDays, int(days.size())));
     ui_->Text2->setText(days);
-    setCheckValue(*ui_->Check4, tweaks.Check4);
+    setCheckValue(*ui_->Check4, tweaks.bossSkins);
 }
 
 bool Prefs::okEnabled() {

@@ -37,8 +37,8 @@ class Prefs : public SkinnedForm, private PrefsView {
     void showFolder(const std::string& folder) override;
     void selectFolder() override;
     void showTimesUsed(int count) override;
-    PrefsControls options() override;
-    void showOptions(const PrefsControls& options) override;
+    PrefsOptions options() override;
+    void showOptions(const PrefsOptions& options) override;
     GameTweaks tweaks() override;
     void showTweaks(const GameTweaks& tweaks) override;
     bool okEnabled() override;
@@ -51,7 +51,7 @@ class Prefs : public SkinnedForm, private PrefsView {
 
     std::unique_ptr<Ui::PrefsContent> ui_;
     Program& program_;
-    Preferences rules_;
+    PrefsRules rules_;
 };
 
 }  // namespace tessaro

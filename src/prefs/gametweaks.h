@@ -1,6 +1,5 @@
 #pragma once
-// The three settings that the game keeps in its own files and hides from its menus, and the wipe
-// of its download cache and of its temporary files:
+// The three settings that the game keeps in its own files and hides from its menus:
 //
 //     UnrealTournament.ini  [URL]             LocalMap=CityIntro.unr   map behind the menu
 //                           [Core.System]     PurgeCacheDays=30        age at which files go
@@ -14,20 +13,20 @@
 
 namespace tessaro {
 
-/// The option that is selected for the game's first map.
+/// What the game opens with. In brackets the dialog's option.
 enum class StartMap {
-    None,     ///< as the dialog was designed: nothing has been read
-    Option6,  ///< the map in `Text3`
-    Option7,  ///< the black logo
-    Option8   ///< the flyby
+    None,       ///< as the dialog was designed: nothing has been read
+    Custom,     ///< the map that is named (`Option6`)
+    BlackLogo,  ///< an empty level behind the menu (`Option7`)
+    Flyby       ///< the game's own introduction (`Option8`)
 };
 
 /// What the dialog shows of the game's files.
 struct GameTweaks {
-    std::string Text3;  ///< map name; kept whichever option is selected
+    std::string mapName;  ///< `Text3`; kept whichever option is selected
     StartMap startMap = StartMap::None;
-    std::string Text2;  ///< days as text, which need be no number
-    int Check4 = 0;     ///< boss skins: 0 clear, 1 ticked, 2 greyed
+    std::string purgeDays;  ///< `Text2`; need be no number
+    int bossSkins = 0;      ///< `Check4`: 0 clear, 1 ticked, 2 greyed
     bool operator==(const GameTweaks&) const = default;
 };
 
@@ -45,9 +44,5 @@ TweaksRead LoadGameTweaksFromFolder(Program& program, clsINI& INI, std::string_v
 
 /// Into the folder in memory, with the sound of success whatever came of it. Never raises.
 void SaveGameTweaks(Program& program, clsINI& INI, const GameTweaks& tweaks);
-
-/// Asks, then empties the cache folder and its index; asks, then deletes the temporary files in
-/// the game's folder. What cannot be deleted stays. Deletes no folder and nothing behind a link.
-void ClearCacheAndTempFiles(Program& program);
 
 }  // namespace tessaro

@@ -4,13 +4,14 @@
 #include "core/routines.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/numbers.h"
+#include "prefs/wipe.h"
 
 namespace tessaro {
 
-Preferences::Preferences(Program& program, PrefsView& view)
+PrefsRules::PrefsRules(Program& program, PrefsView& view)
     : program_(program), view_(view), INI(program.makeINI()) {}
 
-void Preferences::open() {
+void PrefsRules::open() {
     view_.applySkin();
     view_.showFolder(program_.gamePaths.UTPath);
     view_.showTimesUsed(program_.settings.TimesUsed);
@@ -19,19 +20,19 @@ void Preferences::open() {
     // A dialog that stops here keeps its options as they were designed, and stays dirty from the
     // filling of its controls.
     if (!loadTweaks()) return;
-    PrefsControls options = view_.options();
+    PrefsOptions options = view_.options();
     SettingsToPrefs(program_, options);
     view_.showOptions(options);
     view_.selectFolder();
     PrefsDirty_ = 0;
 }
 
-void Preferences::enableIfValid() {
+void PrefsRules::enableIfValid() {
     if (ValidatePaths(program_, view_.folder()) == Yes) view_.enableSaving();
 }
 
 /// Whether opening goes on.
-bool Preferences::loadTweaks() {
+bool PrefsRules::loadTweaks() {
     GameTweaks tweaks = view_.tweaks();
     const TweaksRead read = LoadGameTweaks(program_, INI, tweaks);
     view_.showTweaks(tweaks);
@@ -39,7 +40,7 @@ bool Preferences::loadTweaks() {
     return read == TweaksRead::Complete;
 }
 
-void Preferences::browse() {
+void PrefsRules::browse() {
     std::string folder;
     do {
         folder = BrowseForFolder(program_, "Select Your Unreal Tournament Folder.");
@@ -50,7 +51,7 @@ void Preferences::browse() {
     if (DirExists(program_, view_.folder() + "\\system") == Yes) view_.closeDialog();
 }
 
-void Preferences::accept(const std::string& folder) {
+void PrefsRules::accept(const std::string& folder) {
     view_.showFolder(folder);
     enableIfValid();
     GameTweaks tweaks = view_.tweaks();
@@ -62,14 +63,14 @@ void Preferences::accept(const std::string& folder) {
     PrefsDirty_ = 0;
 }
 
-Answer Preferences::askForAnother(const std::string& folder) {
+Answer PrefsRules::askForAnother(const std::string& folder) {
     return program_.dialogs.message({"The Specified Folder: " + folder +
                                          " does not contain a valid\n"
                                          "directory structure, Please try again.",
                                      "Please Locate UT Directory", Buttons::OkCancel, Icon::None});
 }
 
-void Preferences::apply() {
+void PrefsRules::apply() {
     PrefsDirty_ = 0;
     view_.hideDialog();
     save();
@@ -77,20 +78,20 @@ void Preferences::apply() {
     view_.showDialog();
 }
 
-void Preferences::ok() {
+void PrefsRules::ok() {
     PrefsDirty_ = 0;
     save();
     view_.closeDialog();
 }
 
 /// The sound at the end of the tweaks goes by the setting from before the dialog's changes.
-void Preferences::save() {
+void PrefsRules::save() {
     attempt([&] { SaveGameTweaks(program_, INI, view_.tweaks()); });
     attempt([&] { PrefsToSettings(program_, view_.options()); });
     attempt([&] { SaveSettings(program_); });
 }
 
-void Preferences::cancel() {
+void PrefsRules::cancel() {
     if (!view_.okEnabled()) {
         const Message question{"These settings are not valid. Close Tessaro?", "Preferences",
                                Buttons::YesNo, Icon::Question};
@@ -106,13 +107,13 @@ void Preferences::cancel() {
     view_.closeDialog();
 }
 
-Answer Preferences::askToSave() {
+Answer PrefsRules::askToSave() {
     return program_.dialogs.message(
         {"The Current Settings have not yet been saved, Do you wish to save?", "Save Settings?",
          Buttons::YesNoCancel, Icon::None});
 }
 
-void Preferences::clearCache() {
+void PrefsRules::clearCache() {
     ClearCacheAndTempFiles(program_);
 }
 

@@ -11,7 +11,7 @@
 namespace tessaro {
 
 /// What the rules ask of the dialog. Changes of its controls, also those made from here, come back
-/// through `Preferences::changed`.
+/// through `PrefsRules::changed`.
 class PrefsView {
   public:
     virtual ~PrefsView() = default;
@@ -21,8 +21,8 @@ class PrefsView {
     virtual void showFolder(const std::string& folder) = 0;
     virtual void selectFolder() = 0;
     virtual void showTimesUsed(int count) = 0;
-    virtual PrefsControls options() = 0;
-    virtual void showOptions(const PrefsControls& options) = 0;
+    virtual PrefsOptions options() = 0;
+    virtual void showOptions(const PrefsOptions& options) = 0;
     virtual GameTweaks tweaks() = 0;
     virtual void showTweaks(const GameTweaks& tweaks) = 0;
 
@@ -41,9 +41,9 @@ class PrefsView {
 };
 
 /// One for each load of the dialog.
-class Preferences {
+class PrefsRules {
   public:
-    Preferences(Program& program, PrefsView& view);
+    PrefsRules(Program& program, PrefsView& view);
 
     /// The dialog's Load. Raises what reading the settings and the game's files raises.
     void open();

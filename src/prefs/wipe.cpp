@@ -1,13 +1,13 @@
+#include "prefs/wipe.h"
+
 #include <string>
 
+#include "core/gamefiles.h"
 #include "core/routines.h"
 #include "platform/runtime/runtimeerror.h"
-#include "prefs/gametweaks.h"
 
 namespace tessaro {
 namespace {
-
-constexpr int indexFileNumber = 1;
 
 bool confirms(Program& program, const char* text, const char* title) {
     return program.dialogs.message({text, title, Buttons::YesNo, Icon::Question}) == Answer::Yes;
@@ -23,11 +23,11 @@ void dropLink(Program& program, const std::string& file) {
 
 /// The game finds an index without entries.
 void writeEmptyIndex(Program& program) {
-    const std::string index = program.gamePaths.UTCachePath + "\\cache.ini";
+    const std::string index = cacheIndexIn(program.gamePaths.UTCachePath);
     dropLink(program, index);
-    program.table.openOutput(indexFileNumber, index);
-    program.table.printLine(indexFileNumber, "[Cache]");
-    program.table.close(indexFileNumber);
+    program.table.openOutput(sharedFileNumber, index);
+    program.table.printLine(sharedFileNumber, "[Cache]");
+    program.table.close(sharedFileNumber);
 }
 
 void clearCache(Program& program) {

@@ -129,31 +129,31 @@ TEST_F(Settings, DialogGetsTheRecord) {
     LoadSettings(program);
     program.settings.Skin = "1";
     program.settings.AutoSave = "0";
-    PrefsControls controls;
+    PrefsOptions controls;
     SettingsToPrefs(program, controls);
-    EXPECT_EQ(controls.Text1, "C:\\UnrealTournament");
-    EXPECT_EQ(controls.Check1, 1);
-    EXPECT_EQ(controls.Check2, 0);
-    EXPECT_EQ(controls.Check3, 1);
-    EXPECT_EQ(controls.Text5, "C:\\UTMaps");
-    EXPECT_EQ(controls.Text6, "Player");
-    EXPECT_EQ(controls.Text7, "MS Sans");
-    EXPECT_FALSE(controls.Option3);
-    EXPECT_TRUE(controls.Option4);
-    EXPECT_FALSE(controls.Option5);
+    EXPECT_EQ(controls.gameFolder, "C:\\UnrealTournament");
+    EXPECT_EQ(controls.sounds, 1);
+    EXPECT_EQ(controls.autoSave, 0);
+    EXPECT_EQ(controls.showSplash, 1);
+    EXPECT_EQ(controls.extractDest, "C:\\UTMaps");
+    EXPECT_EQ(controls.defUser, "Player");
+    EXPECT_EQ(controls.asciiFont, "MS Sans");
+    EXPECT_FALSE(controls.firstSkin);
+    EXPECT_TRUE(controls.secondSkin);
+    EXPECT_FALSE(controls.thirdSkin);
 }
 
 TEST_F(Settings, SkinOutsideTheThreeSelectsNoOption) {
     LoadSettings(program);
     program.settings.Skin = "7";
-    PrefsControls controls;
+    PrefsOptions controls;
     SettingsToPrefs(program, controls);
-    EXPECT_FALSE(controls.Option3 || controls.Option4 || controls.Option5);
+    EXPECT_FALSE(controls.firstSkin || controls.secondSkin || controls.thirdSkin);
 }
 
 TEST_F(Settings, DialogSetsTheInnerFoldersFromTheGameFolder) {
     LoadSettings(program);
-    PrefsToSettings(program, {.Text1 = "D:\\UT"});
+    PrefsToSettings(program, {.gameFolder = "D:\\UT"});
     EXPECT_EQ(program.gamePaths.UTPath, "D:\\UT");
     EXPECT_EQ(program.gamePaths.UTCachePath, "D:\\UT\\cache");
     EXPECT_EQ(program.gamePaths.UTMapPath, "D:\\UT\\maps");
@@ -164,22 +164,22 @@ TEST_F(Settings, DialogWithoutASkinLeavesTheSkin) {
     program.settings.Skin = "2";
     PrefsToSettings(program, {});
     EXPECT_EQ(program.settings.Skin, "2");
-    PrefsToSettings(program, {.Option4 = true});
+    PrefsToSettings(program, {.secondSkin = true});
     EXPECT_EQ(program.settings.Skin, "1");
 }
 
 TEST_F(Settings, LaterOptionWinsWhereSeveralAreSet) {
-    PrefsToSettings(program, {.Option3 = true, .Option5 = true});
+    PrefsToSettings(program, {.firstSkin = true, .thirdSkin = true});
     EXPECT_EQ(program.settings.Skin, "2");
 }
 
 TEST_F(Settings, DialogHandsOverFlagsAndHiddenTexts) {
-    PrefsToSettings(program, {.Check1 = 0,
-                              .Check2 = 1,
-                              .Check3 = 1,
-                              .Text5 = "C:\\Out",
-                              .Text6 = "Me",
-                              .Text7 = "Serif"});
+    PrefsToSettings(program, {.sounds = 0,
+                              .autoSave = 1,
+                              .showSplash = 1,
+                              .extractDest = "C:\\Out",
+                              .defUser = "Me",
+                              .asciiFont = "Serif"});
     EXPECT_TRUE(equalsNumber(program.settings.Sounds, 0));
     EXPECT_TRUE(equalsNumber(program.settings.AutoSave, 1));
     EXPECT_TRUE(equalsNumber(program.settings.ShowSplash, 1));

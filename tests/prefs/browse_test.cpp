@@ -1,7 +1,7 @@
 #include <filesystem>
 
 #include "platform/runtime/runtimeerror.h"
-#include "prefs/preferencesfixture.h"
+#include "prefs/prefsrulesfixture.h"
 
 namespace tessaro::test {
 namespace {
@@ -30,8 +30,8 @@ TEST_F(BrowseTest, AGoodFolderIsShownReadAndTakenOverInMemory) {
     view.folderSelected = false;
     test.dialogs.pick("C:\\Other\\ut");
     prefs.browse();
-    EXPECT_EQ(view.controls.Text1, "C:\\Other\\ut");
-    EXPECT_EQ(view.gameTweaks, (GameTweaks{"entry.unr", StartMap::Option7, "4", 0}));
+    EXPECT_EQ(view.controls.gameFolder, "C:\\Other\\ut");
+    EXPECT_EQ(view.gameTweaks, (GameTweaks{"entry.unr", StartMap::BlackLogo, "4", 0}));
     EXPECT_TRUE(view.folderSelected);
     EXPECT_EQ(program.gamePaths.UTPath, "C:\\Other\\ut");
     EXPECT_EQ(program.gamePaths.UTCachePath, "C:\\Other\\ut\\cache");
@@ -54,7 +54,7 @@ TEST_F(BrowseTest, AGoodFolderMakesOkPossible) {
 TEST_F(BrowseTest, TheOptionsShownGoIntoMemoryWithTheFolder) {
     openOnGame();
     makeGame(test.world, "C:\\Other");
-    view.controls.Check3 = 1;
+    view.controls.showSplash = 1;
     prefs.changed();
     test.dialogs.pick("C:\\Other");
     prefs.browse();
@@ -72,8 +72,8 @@ TEST_F(BrowseTest, FoldersInOtherLetterCaseWithBlanksAndForeignLettersAreAccepte
     test.dialogs.pick("C:\\mes jeux\\tournoi irréel Ω");
     prefs.browse();
     EXPECT_TRUE(view.saving);
-    EXPECT_EQ(view.gameTweaks.Text3, "a.unr");
-    EXPECT_EQ(program.gamePaths.UTPath, view.controls.Text1);
+    EXPECT_EQ(view.gameTweaks.mapName, "a.unr");
+    EXPECT_EQ(program.gamePaths.UTPath, view.controls.gameFolder);
 }
 
 TEST_F(BrowseTest, AFolderWithoutOneOfTheFiveIsRefusedByName) {
@@ -84,7 +84,7 @@ TEST_F(BrowseTest, AFolderWithoutOneOfTheFiveIsRefusedByName) {
     test.dialogs.answer(Answer::Cancel);
     prefs.browse();
     EXPECT_EQ(test.dialogs.messages, (std::vector<Message>{refusal("C:\\Half")}));
-    EXPECT_EQ(view.controls.Text1, "C:\\UT");
+    EXPECT_EQ(view.controls.gameFolder, "C:\\UT");
     EXPECT_EQ(program.gamePaths.UTPath, "C:\\UT");
 }
 
@@ -100,7 +100,7 @@ TEST_F(BrowseTest, WrongFolderThenCancelledBrowserThenRightFolder) {
     prefs.browse();
     EXPECT_EQ(test.dialogs.pickers, Steps(3, "Select Your Unreal Tournament Folder."));
     EXPECT_EQ(test.dialogs.messages, (std::vector<Message>{refusal("C:\\Wrong"), refusal("")}));
-    EXPECT_EQ(view.controls.Text1, "C:\\Right");
+    EXPECT_EQ(view.controls.gameFolder, "C:\\Right");
     EXPECT_TRUE(view.saving);
 }
 
@@ -109,7 +109,7 @@ TEST_F(BrowseTest, ACancelledBrowserIsRefusedEvenIfTheDriveLooksLikeAGame) {
         test.world.makeFolder(std::string("C:\\") + folder);
     }
     openWithoutGame();
-    EXPECT_EQ(view.controls.Text1, "C:\\UT");
+    EXPECT_EQ(view.controls.gameFolder, "C:\\UT");
 }
 
 TEST_F(BrowseTest, GivingUpWithAGoodFolderShownClosesTheDialog) {
@@ -137,7 +137,7 @@ TEST_F(BrowseTest, AGameWithoutItsFileIsShownButNotTakenOver) {
     view.folderSelected = false;
     test.dialogs.pick("C:\\Other");
     prefs.browse();
-    EXPECT_EQ(view.controls.Text1, "C:\\Other");
+    EXPECT_EQ(view.controls.gameFolder, "C:\\Other");
     EXPECT_EQ(prefs.PrefsDirty(), 1) << "From the change of the folder shown";
     EXPECT_FALSE(view.folderSelected);
     EXPECT_EQ(program.gamePaths.UTPath, "C:\\UT");

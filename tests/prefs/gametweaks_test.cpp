@@ -28,30 +28,30 @@ class GameTweaksTest : public GameFixture {
 };
 
 TEST_F(GameTweaksTest, TheFlybyMapInAnyCaseSelectsTheFlyby) {
-    EXPECT_EQ(readMap("CITYINTRO.UNR").startMap, StartMap::Option8);
-    EXPECT_EQ(readMap("CityIntro.unr").startMap, StartMap::Option8);
+    EXPECT_EQ(readMap("CITYINTRO.UNR").startMap, StartMap::Flyby);
+    EXPECT_EQ(readMap("CityIntro.unr").startMap, StartMap::Flyby);
 }
 
 TEST_F(GameTweaksTest, TheEntryMapInAnyCaseSelectsTheBlackLogo) {
-    EXPECT_EQ(readMap("Entry.unr").startMap, StartMap::Option7);
-    EXPECT_EQ(readMap("entry.unr").startMap, StartMap::Option7);
+    EXPECT_EQ(readMap("Entry.unr").startMap, StartMap::BlackLogo);
+    EXPECT_EQ(readMap("entry.unr").startMap, StartMap::BlackLogo);
 }
 
 TEST_F(GameTweaksTest, AnyOtherMapIsACustomOne) {
-    EXPECT_EQ(readMap("UTCredits.unr").startMap, StartMap::Option6);
-    EXPECT_EQ(readMap("CityIntro").startMap, StartMap::Option6);
+    EXPECT_EQ(readMap("UTCredits.unr").startMap, StartMap::Custom);
+    EXPECT_EQ(readMap("CityIntro").startMap, StartMap::Custom);
 }
 
 TEST_F(GameTweaksTest, TheMapNameIsShownWhicheverOptionIsSelected) {
-    EXPECT_EQ(readMap("UTCredits.unr").Text3, "UTCredits.unr");
-    EXPECT_EQ(readMap("Entry.unr").Text3, "Entry.unr");
-    EXPECT_EQ(readMap("CITYINTRO.UNR").Text3, "CITYINTRO.UNR");
+    EXPECT_EQ(readMap("UTCredits.unr").mapName, "UTCredits.unr");
+    EXPECT_EQ(readMap("Entry.unr").mapName, "Entry.unr");
+    EXPECT_EQ(readMap("CITYINTRO.UNR").mapName, "CITYINTRO.UNR");
 }
 
 TEST_F(GameTweaksTest, ReadingLeavesTheDefaultsInFilesWithoutTheKeys) {
     writeFiles("[Engine.Engine]\r\nA=1\r\n", "");
     EXPECT_EQ(LoadGameTweaks(program, INI, tweaks), TweaksRead::Complete);
-    EXPECT_EQ(tweaks, (GameTweaks{"CityIntro.unr", StartMap::Option8, "30", 0}));
+    EXPECT_EQ(tweaks, (GameTweaks{"CityIntro.unr", StartMap::Flyby, "30", 0}));
     EXPECT_EQ(game(),
               "[Engine.Engine]\r\nA=1\r\n[URL]\r\nLocalMap=CityIntro.unr\r\n"
               "[Core.System]\r\nPurgeCacheDays=30\r\n");
@@ -63,24 +63,24 @@ TEST_F(GameTweaksTest, ReadingFilesThatHaveTheKeysChangesNoByte) {
     const std::string userText = "[Botpack.Ladder]\r\nHasBeatenGame=True";
     writeFiles(gameText, userText);
     LoadGameTweaks(program, INI, tweaks);
-    EXPECT_EQ(tweaks, (GameTweaks{"DM-ä.unr", StartMap::Option6, "0", 1}));
+    EXPECT_EQ(tweaks, (GameTweaks{"DM-ä.unr", StartMap::Custom, "0", 1}));
     EXPECT_EQ(game(), gameText);
     EXPECT_EQ(user(), userText);
 }
 
 TEST_F(GameTweaksTest, AFalseValueDoesNotClearTheBox) {
     writeFiles("", "[Botpack.Ladder]\r\nHasBeatenGame=False\r\n");
-    tweaks.Check4 = 1;
+    tweaks.bossSkins = 1;
     LoadGameTweaks(program, INI, tweaks);
-    EXPECT_EQ(tweaks.Check4, 1);
+    EXPECT_EQ(tweaks.bossSkins, 1);
 }
 
 TEST_F(GameTweaksTest, BooleansAreReadAsTheRunTimeLibraryReadsThem) {
     for (const char* text : {"TRUE", "true", "1", "-1"}) {
         writeFiles("", std::string("[Botpack.Ladder]\r\nHasBeatenGame=") + text + "\r\n");
-        tweaks.Check4 = 0;
+        tweaks.bossSkins = 0;
         LoadGameTweaks(program, INI, tweaks);
-        EXPECT_EQ(tweaks.Check4, 1) << text;
+        EXPECT_EQ(tweaks.bossSkins, 1) << text;
     }
 }
 
@@ -106,7 +106,7 @@ TEST_F(GameTweaksTest, WithoutTheUsersFileTheLoadStopsAfterTheGamesFile) {
     test.world.write(gameIni,
                      "[URL]\r\nLocalMap=entry.unr\r\n[Core.System]\r\nPurgeCacheDays=9\r\n");
     EXPECT_EQ(LoadGameTweaks(program, INI, tweaks), TweaksRead::NoUserIni);
-    EXPECT_EQ(tweaks, (GameTweaks{"entry.unr", StartMap::Option7, "9", 0}));
+    EXPECT_EQ(tweaks, (GameTweaks{"entry.unr", StartMap::BlackLogo, "9", 0}));
     EXPECT_FALSE(test.world.exists(userIni));
 }
 
@@ -114,7 +114,7 @@ TEST_F(GameTweaksTest, FilesAreFoundInAnyLetterCase) {
     test.world.write("C:\\UT\\System\\UnrealTournament.ini", "[URL]\r\nLocalMap=Entry.unr\r\n");
     test.world.write("C:\\UT\\System\\User.ini", "[Botpack.Ladder]\r\nHasBeatenGame=True\r\n");
     EXPECT_EQ(LoadGameTweaks(program, INI, tweaks), TweaksRead::Complete);
-    EXPECT_EQ(tweaks, (GameTweaks{"Entry.unr", StartMap::Option7, "30", 1}));
+    EXPECT_EQ(tweaks, (GameTweaks{"Entry.unr", StartMap::BlackLogo, "30", 1}));
 }
 
 TEST_F(GameTweaksTest, AChosenFolderIsReadInItsOwnSystemFolder) {
@@ -124,7 +124,7 @@ TEST_F(GameTweaksTest, AChosenFolderIsReadInItsOwnSystemFolder) {
                      "[Botpack.Ladder]\r\nHasBeatenGame=True\r\n");
     EXPECT_EQ(LoadGameTweaksFromFolder(program, INI, "C:\\Games\\my ut", tweaks),
               TweaksRead::Complete);
-    EXPECT_EQ(tweaks, (GameTweaks{"DM-Own.unr", StartMap::Option6, "5", 1}));
+    EXPECT_EQ(tweaks, (GameTweaks{"DM-Own.unr", StartMap::Custom, "5", 1}));
 }
 
 TEST_F(GameTweaksTest, AChosenFolderWithoutTheGamesFileIsNotRead) {
@@ -149,7 +149,7 @@ TEST_F(GameTweaksTest, AChosenFolderWithoutTheUsersFileBelievesTheLadderInTheGam
     test.world.write("C:\\Other\\system\\unrealtournament.ini",
                      "[Botpack.Ladder]\r\nHasBeatenGame=True\r\n");
     LoadGameTweaksFromFolder(program, INI, "C:\\Other", tweaks);
-    EXPECT_EQ(tweaks.Check4, 1);
+    EXPECT_EQ(tweaks.bossSkins, 1);
 }
 
 TEST_F(GameTweaksTest, SavingWritesTheMapOfTheSelectedOption) {
@@ -160,9 +160,9 @@ TEST_F(GameTweaksTest, SavingWritesTheMapOfTheSelectedOption) {
         return INI.getKeyValue("LocalMap", {}, "URL", gameIni);
     };
     EXPECT_EQ(mapAfter(StartMap::None), "x.unr");
-    EXPECT_EQ(mapAfter(StartMap::Option6), "UTCredits.unr");
-    EXPECT_EQ(mapAfter(StartMap::Option7), "entry.unr");
-    EXPECT_EQ(mapAfter(StartMap::Option8), "Cityintro.unr");
+    EXPECT_EQ(mapAfter(StartMap::Custom), "UTCredits.unr");
+    EXPECT_EQ(mapAfter(StartMap::BlackLogo), "entry.unr");
+    EXPECT_EQ(mapAfter(StartMap::Flyby), "Cityintro.unr");
 }
 
 TEST_F(GameTweaksTest, TheFlybyIsWrittenWithASmallLetterAndReadBackAsTheFlyby) {
@@ -172,13 +172,13 @@ TEST_F(GameTweaksTest, TheFlybyIsWrittenWithASmallLetterAndReadBackAsTheFlyby) {
     save();
     EXPECT_EQ(game(), "[URL]\r\nLocalMap=Cityintro.unr\r\n[Core.System]\r\nPurgeCacheDays=30\r\n");
     LoadGameTweaks(program, INI, tweaks);
-    EXPECT_EQ(tweaks.startMap, StartMap::Option8);
+    EXPECT_EQ(tweaks.startMap, StartMap::Flyby);
 }
 
 TEST_F(GameTweaksTest, DaysAreWrittenAsTheyStand) {
     writeFiles("[Core.System]\r\nPurgeCacheDays=30\r\n", "");
     for (const char* days : {"", "007", "abc", "-1"}) {
-        tweaks.Text2 = days;
+        tweaks.purgeDays = days;
         save();
         EXPECT_EQ(game(), std::string("[Core.System]\r\nPurgeCacheDays=") + days + "\r\n");
     }
@@ -187,7 +187,7 @@ TEST_F(GameTweaksTest, DaysAreWrittenAsTheyStand) {
 TEST_F(GameTweaksTest, TheBoxWritesTrueOrFalseAndNothingWhenGreyed) {
     writeFiles("", "[Botpack.Ladder]\r\nHasBeatenGame=kept\r\n");
     const auto ladderAfter = [&](int box) {
-        tweaks.Check4 = box;
+        tweaks.bossSkins = box;
         save();
         return user();
     };
@@ -198,7 +198,7 @@ TEST_F(GameTweaksTest, TheBoxWritesTrueOrFalseAndNothingWhenGreyed) {
 
 TEST_F(GameTweaksTest, SavingCreatesFilesThatAreNotThere) {
     test.world.makeFolder("C:\\UT\\system");
-    tweaks.Check4 = 1;
+    tweaks.bossSkins = 1;
     save();
     EXPECT_EQ(game(), "[Core.System]\r\nPurgeCacheDays=30\r\n");
     EXPECT_EQ(user(), "[Botpack.Ladder]\r\nHasBeatenGame=True\r\n");
@@ -213,7 +213,7 @@ TEST_F(GameTweaksTest, SavingIntoAFolderThatIsNotThereIsPassedOver) {
 TEST_F(GameTweaksTest, AGamesFileThatCannotBeWrittenDoesNotKeepTheUsersFileFromBeingWritten) {
     writeFiles("[Core.System]\r\nPurgeCacheDays=1\r\n", "");
     test.world.host.protect("unrealtournament.ini");
-    tweaks.Check4 = 1;
+    tweaks.bossSkins = 1;
     save();
     EXPECT_EQ(game(), "[Core.System]\r\nPurgeCacheDays=1\r\n");
     EXPECT_EQ(user(), "[Botpack.Ladder]\r\nHasBeatenGame=True\r\n");

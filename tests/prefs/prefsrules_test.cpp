@@ -1,7 +1,7 @@
 #include "prefs/prefsrules.h"
 
 #include "platform/runtime/runtimeerror.h"
-#include "prefs/preferencesfixture.h"
+#include "prefs/prefsrulesfixture.h"
 
 namespace tessaro::test {
 namespace {
@@ -18,16 +18,16 @@ TEST_F(PreferencesTest, OpeningShowsSettingsAndTweaks) {
     prefs.open();
     EXPECT_EQ(view.steps, (Steps{"skin"}));
     EXPECT_EQ(view.timesUsed, 7);
-    EXPECT_EQ(view.controls.Text1, "C:\\UT");
-    EXPECT_EQ(view.controls.Check1, 1);
-    EXPECT_EQ(view.controls.Check2, 0);
-    EXPECT_EQ(view.controls.Check3, 0);
-    EXPECT_EQ(view.controls.Text5, "C:\\Taken");
-    EXPECT_EQ(view.controls.Text6, "Somebody");
-    EXPECT_EQ(view.controls.Text7, "Courier");
-    EXPECT_FALSE(view.controls.Option3 || view.controls.Option4);
-    EXPECT_TRUE(view.controls.Option5);
-    EXPECT_EQ(view.gameTweaks, (GameTweaks{"CityIntro.unr", StartMap::Option8, "30", 0}));
+    EXPECT_EQ(view.controls.gameFolder, "C:\\UT");
+    EXPECT_EQ(view.controls.sounds, 1);
+    EXPECT_EQ(view.controls.autoSave, 0);
+    EXPECT_EQ(view.controls.showSplash, 0);
+    EXPECT_EQ(view.controls.extractDest, "C:\\Taken");
+    EXPECT_EQ(view.controls.defUser, "Somebody");
+    EXPECT_EQ(view.controls.asciiFont, "Courier");
+    EXPECT_FALSE(view.controls.firstSkin || view.controls.secondSkin);
+    EXPECT_TRUE(view.controls.thirdSkin);
+    EXPECT_EQ(view.gameTweaks, (GameTweaks{"CityIntro.unr", StartMap::Flyby, "30", 0}));
     EXPECT_TRUE(view.folderSelected);
     EXPECT_TRUE(view.saving);
     EXPECT_EQ(prefs.PrefsDirty(), 0);
@@ -36,7 +36,7 @@ TEST_F(PreferencesTest, OpeningShowsSettingsAndTweaks) {
 TEST_F(PreferencesTest, OpeningServesEventsBetweenShowingTheFolderAndTestingIt) {
     makeGame(test.world, "C:\\UT");
     test.events.onPump = [&] {
-        EXPECT_EQ(view.controls.Text1, "C:\\UT");
+        EXPECT_EQ(view.controls.gameFolder, "C:\\UT");
         EXPECT_EQ(view.timesUsed, 7);
         EXPECT_FALSE(view.saving);
         EXPECT_EQ(prefs.PrefsDirty(), 1);
@@ -53,7 +53,7 @@ TEST_F(PreferencesTest, OpeningWithoutOneOfTheFoldersLeavesOkDisabled) {
         other.program.gamePaths = program.gamePaths;
         other.program.settings = program.settings;
         RecordingView otherView;
-        Preferences(other.program, otherView).open();
+        PrefsRules(other.program, otherView).open();
         EXPECT_FALSE(otherView.saving) << missing;
         EXPECT_TRUE(otherView.folderSelected) << missing;
     }
@@ -64,9 +64,9 @@ TEST_F(PreferencesTest, OpeningWithoutTheUsersFileStopsDirtyWithTheOptionsAsDesi
     std::filesystem::remove(test.world.at(userIni));
     prefs.open();
     EXPECT_TRUE(view.saving);
-    EXPECT_EQ(view.gameTweaks.startMap, StartMap::Option8);
-    EXPECT_EQ(view.controls.Text5, "designed 5");
-    EXPECT_EQ(view.controls.Check2, 1);
+    EXPECT_EQ(view.gameTweaks.startMap, StartMap::Flyby);
+    EXPECT_EQ(view.controls.extractDest, "designed 5");
+    EXPECT_EQ(view.controls.autoSave, 1);
     EXPECT_FALSE(view.folderSelected);
     EXPECT_EQ(prefs.PrefsDirty(), 1);
     EXPECT_TRUE(test.dialogs.pickers.empty());
@@ -89,8 +89,8 @@ TEST_F(PreferencesTest, OpeningWithoutTheGamesFileBrowsesAndStops) {
     EXPECT_EQ(test.dialogs.pickers, (Steps{"Select Your Unreal Tournament Folder."}));
     EXPECT_EQ(test.dialogs.messages, (std::vector<Message>{refusal("")}));
     EXPECT_EQ(view.steps, (Steps{"skin"})) << "Without a system folder the dialog stays";
-    EXPECT_EQ(view.gameTweaks.Text3, "UTCredits.unr");
-    EXPECT_EQ(view.controls.Text5, "designed 5");
+    EXPECT_EQ(view.gameTweaks.mapName, "UTCredits.unr");
+    EXPECT_EQ(view.controls.extractDest, "designed 5");
     EXPECT_FALSE(view.saving);
     EXPECT_EQ(prefs.PrefsDirty(), 1);
 }
@@ -107,9 +107,9 @@ TEST_F(PreferencesTest, TheBrowseAtOpeningCanFindTheGame) {
     makeGame(test.world, "C:\\Games\\ut");
     test.dialogs.pick("C:\\Games\\ut");
     prefs.open();
-    EXPECT_EQ(view.controls.Text1, "C:\\Games\\ut");
+    EXPECT_EQ(view.controls.gameFolder, "C:\\Games\\ut");
     EXPECT_TRUE(view.saving);
-    EXPECT_EQ(view.gameTweaks.startMap, StartMap::Option8);
+    EXPECT_EQ(view.gameTweaks.startMap, StartMap::Flyby);
     EXPECT_EQ(program.gamePaths.UTSysPath, "C:\\Games\\ut\\system");
     EXPECT_EQ(prefs.PrefsDirty(), 0);
 }
@@ -122,10 +122,10 @@ TEST_F(PreferencesTest, OpeningRaisesWhatTheFilesRaise) {
 
 TEST_F(PreferencesTest, ApplyHidesSavesDressesAndShowsInThisOrder) {
     openOnGame();
-    view.gameTweaks.Text2 = "9";
-    view.controls.Check1 = 0;
-    view.controls.Option5 = false;
-    view.controls.Option4 = true;
+    view.gameTweaks.purgeDays = "9";
+    view.controls.sounds = 0;
+    view.controls.thirdSkin = false;
+    view.controls.secondSkin = true;
     prefs.changed();
     view.onStep = [&](const std::string& step) {
         EXPECT_EQ(prefs.PrefsDirty(), 0);
@@ -140,10 +140,10 @@ TEST_F(PreferencesTest, ApplyHidesSavesDressesAndShowsInThisOrder) {
 
 TEST_F(PreferencesTest, TheSoundOfApplyGoesByTheSettingFromBefore) {
     openOnGame();
-    view.controls.Check1 = 0;
+    view.controls.sounds = 0;
     prefs.apply();
     EXPECT_EQ(test.sounds.names, (Steps{"ladvance"}));
-    view.controls.Check1 = 1;
+    view.controls.sounds = 1;
     prefs.apply();
     EXPECT_EQ(test.sounds.names.size(), 1U);
     prefs.apply();
@@ -163,7 +163,7 @@ TEST_F(PreferencesTest, ApplyOnAFolderThatIsNotThereStillSavesTheSettings) {
     test.dialogs.pick("");
     test.dialogs.answer(Answer::Cancel);
     prefs.open();
-    view.controls.Check3 = 0;
+    view.controls.showSplash = 0;
     prefs.apply();
     EXPECT_NE(settingsFile().find("ShowSplash=0"), std::string::npos);
     EXPECT_EQ(view.steps.back(), "show");
@@ -171,7 +171,7 @@ TEST_F(PreferencesTest, ApplyOnAFolderThatIsNotThereStillSavesTheSettings) {
 
 TEST_F(PreferencesTest, OkSavesAndClosesWithoutHidingOrDressing) {
     openOnGame();
-    view.controls.Check2 = 1;
+    view.controls.autoSave = 1;
     prefs.changed();
     view.onStep = [&](const std::string&) {
         EXPECT_NE(settingsFile().find("AutoSave=1"), std::string::npos);
@@ -193,7 +193,7 @@ TEST_F(PreferencesTest, SettingsThatCannotBeWrittenGoUnnoticed) {
     openOnGame();
     test.world.host.protect("vornx.ini");
     const std::string before = settingsFile();
-    view.controls.Check3 = 1;
+    view.controls.showSplash = 1;
     prefs.ok();
     EXPECT_EQ(view.steps, (Steps{"close"}));
     EXPECT_EQ(settingsFile(), before);
@@ -208,7 +208,7 @@ TEST_F(PreferencesTest, CancelClosesACleanDialogWithoutAQuestion) {
 
 TEST_F(PreferencesTest, CancelOfADirtyDialogAsksAndYesSaves) {
     openOnGame();
-    view.controls.Check3 = 1;
+    view.controls.showSplash = 1;
     prefs.changed();
     test.dialogs.answer(Answer::Yes);
     prefs.cancel();
@@ -220,7 +220,7 @@ TEST_F(PreferencesTest, CancelOfADirtyDialogAsksAndYesSaves) {
 TEST_F(PreferencesTest, CancelOfADirtyDialogAsksAndNoClosesWithoutSaving) {
     openOnGame();
     const std::string before = settingsFile();
-    view.controls.Check3 = 1;
+    view.controls.showSplash = 1;
     prefs.changed();
     test.dialogs.answer(Answer::No);
     prefs.cancel();
@@ -241,7 +241,7 @@ TEST_F(PreferencesTest, CancelOfADirtyDialogAsksAndCancelKeepsItOpen) {
 TEST_F(PreferencesTest, CancelWithAutoSaveSavesWithoutAQuestion) {
     program.settings.AutoSave = "1";
     openOnGame();
-    view.controls.Check3 = 1;
+    view.controls.showSplash = 1;
     prefs.changed();
     prefs.cancel();
     EXPECT_TRUE(test.dialogs.messages.empty());
@@ -251,7 +251,7 @@ TEST_F(PreferencesTest, CancelWithAutoSaveSavesWithoutAQuestion) {
 
 TEST_F(PreferencesTest, CancelGoesByTheAutoSaveInMemoryNotByTheBox) {
     openOnGame();
-    view.controls.Check2 = 1;
+    view.controls.autoSave = 1;
     prefs.changed();
     test.dialogs.answer(Answer::Cancel);
     prefs.cancel();

@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "platform/text/encoding.h"
-#include "prefs/preferencesfixture.h"
+#include "prefs/prefsrulesfixture.h"
 #include "tools/samplegame/inifiles.h"
 
 namespace tessaro::test {
@@ -54,7 +54,7 @@ class RealFilesTest : public PreferencesFixture {
     void openAndApplyTenTimes(const std::function<void(GameTweaks&)>& change) {
         for (int round = 0; round < 10; ++round) {
             RecordingView dialog;
-            Preferences rules(program, dialog);
+            PrefsRules rules(program, dialog);
             rules.open();
             change(dialog.gameTweaks);
             rules.apply();
@@ -65,7 +65,7 @@ class RealFilesTest : public PreferencesFixture {
 };
 
 void chooseOwnMap(GameTweaks& tweaks) {
-    tweaks = {"DM-Größe.unr", StartMap::Option6, "14", 1};
+    tweaks = {"DM-Größe.unr", StartMap::Custom, "14", 1};
 }
 
 TEST_F(RealFilesTest, TheUntidyFileIsAsMeant) {
@@ -138,7 +138,7 @@ TEST_F(RealFilesTest, AFileOfUtf8StaysOne) {
 TEST_F(RealFilesTest, AGameNotYetWonGainsTheLadderOnce) {
     const std::string user = sample::userIni();
     makeGameWith(untidyGameIni(), user);
-    openAndApplyTenTimes([](GameTweaks& tweaks) { tweaks.Check4 = 1; });
+    openAndApplyTenTimes([](GameTweaks& tweaks) { tweaks.bossSkins = 1; });
     EXPECT_EQ(test.world.read(userIni), user + "[Botpack.Ladder]\r\nHasBeatenGame=True\r\n");
 }
 

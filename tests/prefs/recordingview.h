@@ -11,13 +11,13 @@ namespace tessaro::test {
 /// The dialog's controls without a window, as designed, and what was done to it, in order.
 class RecordingView : public PrefsView {
   public:
-    PrefsControls controls{.Text1 = {},
-                           .Check1 = 1,
-                           .Check2 = 1,
-                           .Check3 = 1,
-                           .Text5 = "designed 5",
-                           .Text6 = "designed 6",
-                           .Text7 = "designed 7"};
+    PrefsOptions controls{.gameFolder = {},
+                          .sounds = 1,
+                          .autoSave = 1,
+                          .showSplash = 1,
+                          .extractDest = "designed 5",
+                          .defUser = "designed 6",
+                          .asciiFont = "designed 7"};
     GameTweaks gameTweaks{"UTCredits.unr", StartMap::None, "30", 0};
     int timesUsed = 0;
     bool saving = false;
@@ -26,15 +26,15 @@ class RecordingView : public PrefsView {
     std::function<void(const std::string& step)> onStep;
     std::function<void()> changed;  ///< what a change of a text box calls
 
-    std::string folder() override { return controls.Text1; }
+    std::string folder() override { return controls.gameFolder; }
     void showFolder(const std::string& folder) override {
-        if (controls.Text1 != folder && changed) changed();
-        controls.Text1 = folder;
+        if (controls.gameFolder != folder && changed) changed();
+        controls.gameFolder = folder;
     }
     void selectFolder() override { folderSelected = true; }
     void showTimesUsed(int count) override { timesUsed = count; }
-    PrefsControls options() override { return controls; }
-    void showOptions(const PrefsControls& options) override { controls = options; }
+    PrefsOptions options() override { return controls; }
+    void showOptions(const PrefsOptions& options) override { controls = options; }
     GameTweaks tweaks() override { return gameTweaks; }
     void showTweaks(const GameTweaks& tweaks) override {
         if (!(gameTweaks == tweaks) && changed) changed();

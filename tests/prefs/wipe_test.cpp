@@ -4,7 +4,7 @@
 
 #include "platform/runtime/runtimeerror.h"
 #include "prefs/gamefixture.h"
-#include "prefs/gametweaks.h"
+#include "prefs/wipe.h"
 
 namespace tessaro::test {
 namespace {

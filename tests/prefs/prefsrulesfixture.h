@@ -32,7 +32,7 @@ class PreferencesFixture : public GameFixture {
     std::string settingsFile() { return test.world.read("C:\\Tessaro\\vornx.ini"); }
 
     RecordingView view;
-    Preferences prefs{program, view};
+    PrefsRules prefs{program, view};
 };
 
 }  // namespace tessaro::test
