@@ -57,6 +57,7 @@ void Prefs::setupCommands() {
     on(ui_->Command2, &QPushButton::clicked, forms(), [this] { rules_.apply(); });
     on(ui_->Command3, &QPushButton::clicked, forms(), [this] { rules_.clearCache(); });
     on(ui_->Command5, &QPushButton::clicked, forms(), [this] { rules_.cancel(); });
+    setCancelButton(*ui_->Command5);
     on(ui_->Command6, &QPushButton::clicked, forms(), [this] { rules_.ok(); });
 }
 

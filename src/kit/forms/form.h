@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QString>
@@ -35,11 +36,18 @@ class Form {
     Forms& forms_;
 };
 
-/// A dialog whose Esc does what its close button does.
-class EscapableDialog : public QDialog {
+/// A dialog whose Esc presses its cancel button, if it has one that can be pressed, and does
+/// nothing else: left alone, Qt's would close a window that offers no such way out.
+class CancelDialog : public QDialog {
   public:
     using QDialog::QDialog;
-    void reject() override { close(); }
+    void setCancelButton(QAbstractButton& button) { cancel_ = &button; }
+    void reject() override {
+        if (cancel_ != nullptr && cancel_->isVisible() && cancel_->isEnabled()) cancel_->click();
+    }
+
+  private:
+    QAbstractButton* cancel_ = nullptr;
 };
 
 template <class Base>
@@ -48,7 +56,7 @@ struct WindowBase {
 };
 template <>
 struct WindowBase<QDialog> {
-    using type = EscapableDialog;
+    using type = CancelDialog;
 };
 
 /// A form that is a window of the class `Base`, QMainWindow or QDialog.

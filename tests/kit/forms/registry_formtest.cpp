@@ -134,9 +134,22 @@ TEST_F(FormRegistry, AFormThatRefusesStaysOpen) {
     EXPECT_THAT(events, ElementsAre("made 1", "Load 1", "QueryUnload 1"));
 }
 
-TEST_F(FormRegistry, EscClosesADialogAsItsCloseButtonDoes) {
+TEST_F(FormRegistry, EscPressesTheCancelButtonOfADialogAndClosesNoneWithout) {
     forms_.show<First>();
-    QTest::keyClick(&forms_.get<First>(), Qt::Key_Escape);
+    First& form = forms_.get<First>();
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_EQ(forms_.loaded<First>(), &form);
+    QPushButton cancel(&form);
+    QObject::connect(&cancel, &QPushButton::clicked, [&] { form.close(); });
+    form.setCancelButton(cancel);
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_EQ(forms_.loaded<First>(), &form) << "The button cannot be seen";
+    cancel.show();
+    cancel.setEnabled(false);
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_EQ(forms_.loaded<First>(), &form) << "The button cannot be pressed";
+    cancel.setEnabled(true);
+    QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_EQ(forms_.loaded<First>(), nullptr);
     EXPECT_THAT(events, ElementsAre("made 1", "Load 1", "QueryUnload 1", "Unload 1"));
 }
