@@ -102,16 +102,52 @@ TEST_F(SkinTest, TheFirstSkinLeavesTheSecondListAsItWas) {
     EXPECT_EQ(ground(form.ui.ListView2), QColor(192, 0, 0));
 }
 
+/// Every control that a skin may colour, each at first of a colour that no skin has, and which of
+/// them are of the skin's colour once they are dressed.
+QStringList colouredBy(Program& program, Forms& forms, const char* skin, const QColor& colour) {
+    QWidget form;
+    for (const char* name : {"ListView1", "ListView2", "List1", "Dir1", "Drive1", "Text1", "Text2",
+                             "Text3", "Text4", "Text5", "Text6", "Text7", "Text8", "Text9"}) {
+        auto* field = new QLineEdit(&form);
+        field->setObjectName(QLatin1String(name));
+        field->setPalette(QPalette(Qt::green));
+    }
+    program.settings.Skin = skin;
+    ApplySkin(program, forms, form);
+    QStringList coloured;
+    for (const QLineEdit* field : form.findChildren<QLineEdit*>())
+        if (ground(field) == colour) coloured << field->objectName();
+    return coloured;
+}
+
+TEST_F(SkinTest, EachSkinColoursItsListOfFields) {
+    const QStringList all{"ListView1", "ListView2", "List1", "Dir1",  "Drive1", "Text1", "Text2",
+                          "Text3",     "Text4",     "Text5", "Text6", "Text7",  "Text8", "Text9"};
+    QStringList allButTheSecondList = all;
+    allButTheSecondList.removeOne(QStringLiteral("ListView2"));
+    EXPECT_EQ(colouredBy(program_, forms_, "0", QColor(64, 64, 64)), allButTheSecondList);
+    EXPECT_EQ(colouredBy(program_, forms_, "1", QColor(0, 0, 192)), all);
+    EXPECT_EQ(colouredBy(program_, forms_, "2", QColor(192, 0, 0)), all);
+}
+
 TEST_F(SkinTest, OnlyTheNamedBoxesAreColoured) {
     const BatchForm& form = dressedIn("1");
     EXPECT_EQ(ground(form.ui.Text10), designGround);
 }
 
 TEST_F(SkinTest, NoSkinTouchesTheLettersOfListsAndTextBoxes) {
+    const BatchForm& form = forms_.get<BatchForm>();
+    EXPECT_EQ(form.ui.Text9->palette().color(QPalette::Text), QColor(Qt::white));
+    const QColor designed(Qt::yellow);
+    for (QWidget* field : std::initializer_list<QWidget*>{form.ui.ListView1, form.ui.Text9}) {
+        QPalette palette = field->palette();
+        palette.setColor(QPalette::Text, designed);
+        field->setPalette(palette);
+    }
     for (const char* skin : {"0", "1", "2"}) {
-        const BatchForm& form = dressedIn(skin);
-        EXPECT_EQ(form.ui.ListView1->palette().color(QPalette::Text), QColor(Qt::white));
-        EXPECT_EQ(form.ui.Text9->palette().color(QPalette::Text), QColor(Qt::white));
+        dressedIn(skin);
+        EXPECT_EQ(form.ui.ListView1->palette().color(QPalette::Text), designed) << skin;
+        EXPECT_EQ(form.ui.Text9->palette().color(QPalette::Text), designed) << skin;
     }
 }
 

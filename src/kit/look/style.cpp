@@ -69,6 +69,16 @@ bool isField(const QWidget& widget) {
            qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
 }
 
+void setFieldLetters(QWidget& field) {
+    QPalette palette = field.palette();
+    setColours(palette, {{QPalette::Text, fieldLetters, paleFieldLetters},
+                         {QPalette::ButtonText, fieldLetters, paleFieldLetters},
+                         {QPalette::PlaceholderText, paleFieldLetters, paleFieldLetters},
+                         {QPalette::Highlight, QColor(224, 224, 224), QColor(190, 190, 190)},
+                         {QPalette::HighlightedText, letters, letters}});
+    field.setPalette(palette);
+}
+
 }  // namespace
 
 QPalette programPalette() {
@@ -110,22 +120,20 @@ void applyProgramStyle(QApplication& application) {
 
 void setFieldGround(QWidget& field, const QColor& colour) {
     QPalette palette = field.palette();
-    setColours(palette, {{QPalette::Base, colour, colour},
-                         {QPalette::AlternateBase, colour, colour},
-                         {QPalette::Text, fieldLetters, paleFieldLetters},
-                         {QPalette::PlaceholderText, paleFieldLetters, paleFieldLetters},
-                         {QPalette::Highlight, QColor(224, 224, 224), QColor(190, 190, 190)},
-                         {QPalette::HighlightedText, letters, letters}});
+    setColours(palette,
+               {{QPalette::Base, colour, colour}, {QPalette::AlternateBase, colour, colour}});
     // A list that drops down is drawn as a button.
     if (qobject_cast<QComboBox*>(&field) != nullptr)
-        setColours(palette, {{QPalette::Button, colour, colour},
-                             {QPalette::ButtonText, fieldLetters, paleFieldLetters}});
+        setColours(palette, {{QPalette::Button, colour, colour}});
     field.setPalette(palette);
 }
 
 void dressFields(QWidget& form) {
-    for (QWidget* widget : form.findChildren<QWidget*>())
-        if (isField(*widget)) setFieldGround(*widget, fieldGround);
+    for (QWidget* widget : form.findChildren<QWidget*>()) {
+        if (!isField(*widget)) continue;
+        setFieldGround(*widget, fieldGround);
+        setFieldLetters(*widget);
+    }
 }
 
 }  // namespace tessaro

@@ -12,9 +12,10 @@ void applyProgramStyle(QApplication& application);
 /// The light colours of everything but lists and text boxes.
 QPalette programPalette();
 
-/// Makes a list or text box show white letters on `ground`, which has to be dark.
+/// Gives a list or text box its ground, which has to be dark; its letters stay as they are.
 void setFieldGround(QWidget& field, const QColor& ground);
-/// Gives every list and text box inside `form` its design look, before a skin colours it.
+/// Gives every list and text box inside `form` its design look, white letters on a dark ground,
+/// before a skin colours the ground.
 void dressFields(QWidget& form);
 
 }  // namespace tessaro
