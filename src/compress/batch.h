@@ -13,6 +13,9 @@ class BatchObserver {
     virtual ~BatchObserver() = default;
     /// Running: the pointer is an hourglass and the form takes no input. The reverse when idle.
     virtual void setRunning(bool running) = 0;
+    /// Whether the form has gone, as it does with the main window. The batch then ends before its
+    /// next file, without its question: nobody is left to answer.
+    virtual bool abandoned() = 0;
     /// Files of the batch that stood at the destination already.
     virtual void showExisting(int count) = 0;
     /// Position in the list, of which its number of rows is the end.

@@ -31,7 +31,7 @@ void BatchForm::fillBatch(const ListItems& dropped, ListItems& batch,
 }
 
 void BatchForm::setRunning(bool running) {
-    running ? setCursor(Qt::WaitCursor) : unsetCursor();
+    pointer_.show(running);
     setEnabled(!running);
     if (!running) Command2_->setFocus();
 }

@@ -8,6 +8,7 @@
 #include "compress/batch.h"
 #include "kit/controls/listview.h"
 #include "kit/frame/skinnedform.h"
+#include "kit/look/busypointer.h"
 
 namespace tessaro {
 
@@ -36,6 +37,7 @@ class BatchForm : public SkinnedForm, protected BatchObserver {
     void fillBatch(const ListItems& dropped, ListItems& batch, const std::string& destination);
 
     void setRunning(bool running) override;
+    bool abandoned() override { return !stillLoaded(); }
     void showExisting(int count) override;
     void showProgress(int position) override;
 
@@ -49,6 +51,7 @@ class BatchForm : public SkinnedForm, protected BatchObserver {
     void setUpLists(std::initializer_list<List> lists);
     void setUpButtons(QPushButton& close, const std::function<void()>& run);
 
+    BusyPointer pointer_;
     QLineEdit* Text1_ = nullptr;
     QLineEdit* Text2_ = nullptr;
     QProgressBar* ProgressBar1_ = nullptr;

@@ -6,6 +6,10 @@
 
 namespace tessaro {
 
+void showCompressor(Forms& forms) {
+    forms.loaded<comp2>() != nullptr ? forms.show<comp2>() : forms.show<comp>();
+}
+
 comp::comp(Forms& forms, Program& program)
     : DropForm(forms, program, PackageTool::Compressor,
                {.caption = "UT File Compressor", .title = "File Compressor", .secondButton = true}),

@@ -10,6 +10,10 @@ class compContent;
 
 namespace tessaro {
 
+/// Opens the compressor: its batch comes to the front while there is one, since a second choice of
+/// files and folder would change the destination under its feet.
+void showCompressor(Forms& forms);
+
 /// Collects the files to compress.
 class comp : public DropForm {
   public:

@@ -18,7 +18,11 @@ void CompressBatch::run() {
     ignoresFailures_ = false;
     ListView2.clear();
     observer_.setRunning(true);
-    for (std::size_t i = 1; i <= ListView1.count(); ++i) pass(i);
+    for (std::size_t i = 1; i <= ListView1.count(); ++i) {
+        if (observer_.abandoned()) return;
+        pass(i);
+    }
+    if (observer_.abandoned()) return;
     observer_.setRunning(false);
     if (confirmClosing(program_,
                        "File Batch Compression Complete.\nDo you wish to close UT File Compressor?",

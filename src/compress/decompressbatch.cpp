@@ -5,8 +5,8 @@
 
 namespace tessaro {
 
-std::string packageNameOf(std::string_view uzFile) {
-    return FileNamePart(uzFile.substr(0, uzFile.find(".uz")));
+std::string packagePathOf(std::string_view uzFile) {
+    return std::string(uzFile.substr(0, uzFile.find(".uz")));
 }
 
 DecompressBatch::DecompressBatch(Program& program, BatchObserver& observer, Ucc ucc)
@@ -23,7 +23,11 @@ void DecompressBatch::run() {
     FileFound_ = 0;
     ListView2.clear();
     const Int16 last = static_cast<long long>(ListView1.count());
-    for (i_ = 1; i_ <= last; ++i_) pass();
+    for (i_ = 1; i_ <= last; ++i_) {
+        if (observer_.abandoned()) return;
+        pass();
+    }
+    if (observer_.abandoned()) return;
     observer_.setRunning(false);
     askToClose();
 }
@@ -31,7 +35,7 @@ void DecompressBatch::run() {
 /// A source that has vanished is passed over, and the bar does not move for it.
 void DecompressBatch::pass() {
     UZfiles_ = ListView1.item(static_cast<std::size_t>(i_)).text;
-    Decompfile_ = expdest_ + "\\" + packageNameOf(UZfiles_);
+    Decompfile_ = expdest_ + "\\" + GetFileName(program_, packagePathOf(UZfiles_));
     if (FileExists(program_, UZfiles_) != Yes) return;
     if (FileExists(program_, Decompfile_) == Yes) {
         ++FileFound_;

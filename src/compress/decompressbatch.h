@@ -9,9 +9,9 @@
 
 namespace tessaro {
 
-/// The package's name for a compressed file: the path up to its first ".uz", of which the name. A
-/// ".uz" in the middle of a name or of a folder cuts too, an upper-case one never does.
-std::string packageNameOf(std::string_view uzFile);
+/// The package's path for a compressed file: all up to its first ".uz". One in the middle of a name
+/// or of a folder cuts too, an upper-case one never does.
+std::string packagePathOf(std::string_view uzFile);
 
 /// Decompresses the listed files, one process for each, and moves what appears in the game's system
 /// folder to `Program::DecompressDest`. Nothing guards it: every failure is raised.

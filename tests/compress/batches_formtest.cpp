@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QCheckBox>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -167,14 +168,78 @@ TEST_F(BatchForms, WhileABatchRunsTheFormTakesNoInputAndCannotBeClosed) {
     duringRun([&] {
         looked = true;
         EXPECT_FALSE(form.isEnabled());
-        EXPECT_EQ(form.cursor().shape(), Qt::WaitCursor);
+        // What is seen, whatever the form's own pointer says: a disabled widget shows none.
+        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
         form.close();
         EXPECT_TRUE(form.isVisible());
     });
     start(form, Answer::No);
     EXPECT_TRUE(looked);
     EXPECT_TRUE(form.isEnabled());
-    EXPECT_EQ(form.cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(BatchForms, TheHourglassGoesWithAFormThatIsUnloadedDuringItsBatch) {
+    comp2& form = compression({R"(C:\a.unr)"});
+    duringRun([&] { forms_.unload(form); });
+    control<QPushButton>(form, "Command2").click();
+    test::serveEvents();
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(BatchForms, ACompressionEndsBeforeItsNextFileOnceAllFormsWereUnloaded) {
+    comp2& form = compression({R"(C:\a.unr)", R"(C:\b.unr)"});
+    duringRun([&] { forms_.UnloadAllForms(); });
+    control<QPushButton>(form, "Command2").click();
+    EXPECT_THAT(packer_.commandLines(),
+                ElementsAre(R"(C:\UnrealTournament\System\ucc.exe compress "C:\a.unr")"));
+    EXPECT_THAT(world_.dialogs.messages, IsEmpty());
+    EXPECT_EQ(disk_.read(R"(C:\Out\a.unr.uz)"), test::Packer::compressed("a.unr", "map"));
+}
+
+TEST_F(BatchForms, ADecompressionEndsBeforeItsNextFileOnceAllFormsWereUnloaded) {
+    decomp2& form = decompression({R"(C:\a.unr.uz)", R"(C:\b.unr.uz)"});
+    duringRun([&] { forms_.UnloadAllForms(); });
+    control<QPushButton>(form, "Command2").click();
+    EXPECT_THAT(packer_.commandLines(),
+                ElementsAre(R"(C:\UnrealTournament\System\ucc.exe decompress "C:\a.unr.uz")"));
+    EXPECT_THAT(world_.dialogs.messages, IsEmpty());
+    EXPECT_EQ(disk_.read(R"(C:\Out\a.unr)"), "map");
+}
+
+TEST_F(BatchForms, TheBatchComesToTheFrontWhenTheCompressorIsChosenAgain) {
+    const comp2& form = compression({R"(C:\a.unr)"});
+    forms_.get<comp>().hide();
+    showCompressor(forms_);
+    EXPECT_FALSE(forms_.get<comp>().isVisible());
+    EXPECT_TRUE(form.isVisible());
+    forms_.unload(forms_.get<comp2>());
+    showCompressor(forms_);
+    EXPECT_TRUE(forms_.get<comp>().isVisible());
+}
+
+TEST_F(BatchForms, EscClosesNeitherAListNorABatch) {
+    comp2& compressing = compression({R"(C:\a.unr)"});
+    QTest::keyClick(&compressing, Qt::Key_Escape);
+    EXPECT_TRUE(compressing.isVisible());
+    QTest::keyClick(&forms_.get<comp>(), Qt::Key_Escape);
+    EXPECT_NE(forms_.loaded<comp>(), nullptr);
+}
+
+TEST_F(BatchForms, TheBarOfAnEmptyListKeepsItsDesignedEnd) {
+    decomp2& form = decompression({});
+    EXPECT_EQ(control<QProgressBar>(form, "ProgressBar1").maximum(), 100);
+}
+
+TEST_F(BatchForms, ALaterRunGoesWhereTheDestinationPointsByThen) {
+    decomp2& form = decompression({R"(C:\a.unr.uz)"});
+    start(form, Answer::No);
+    disk_.makeFolder(R"(C:\Later)");
+    program_.DecompressDest = R"(C:\Later)";
+    start(form, Answer::No);
+    EXPECT_EQ(disk_.read(R"(C:\Later\a.unr)"), "map");
+    EXPECT_THAT(rows(form, "ListView2"), ElementsAre(R"(C:\Later\a.unr|3)"));
 }
 
 TEST_F(BatchForms, AfterABatchTheKeyboardIsBackOnTheButtons) {

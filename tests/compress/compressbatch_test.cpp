@@ -53,6 +53,15 @@ TEST_F(CompressBatchTest, LoadingAFileThatHasGoneSinceItsDropIsAFailure) {
               errors::FileNotFound);
 }
 
+TEST_F(CompressBatchTest, EndsBeforeTheNextFileAndWithoutAQuestionOnceItsFormHasGone) {
+    list({"a.unr", "b.unr"});
+    world_.events.onPump = [&] { form_.gone = true; };
+    batch_.run();
+    EXPECT_THAT(rowsOf(batch_.ListView2), ElementsAre(R"(C:\Out\a.unr.uz|11)"));
+    EXPECT_FALSE(disk_.exists(R"(C:\Out\b.unr.uz)"));
+    EXPECT_THAT(world_.dialogs.messages, IsEmpty());
+}
+
 TEST_F(CompressBatchTest, MovesTheResultAndLeavesTheSourceWhereItIs) {
     list({"DM-A b.unr"});
     run();

@@ -54,16 +54,23 @@ class DecompressBatchTest : public test::BatchTest<DecompressBatch> {
 };
 
 TEST(PackageName, IsTheFilesNameUpToItsFirstUz) {
-    EXPECT_EQ(packageNameOf(R"(C:\Packed\Map.u.uz)"), "Map.u");
-    EXPECT_EQ(packageNameOf(R"(C:\Packed\a.uzb.u.uz)"), "a");
+    EXPECT_EQ(packagePathOf(R"(C:\Packed\Map.u.uz)"), R"(C:\Packed\Map.u)");
+    EXPECT_EQ(packagePathOf(R"(C:\Packed\a.uzb.u.uz)"), R"(C:\Packed\a)");
 }
 
 TEST(PackageName, KeepsAnUpperCaseExtension) {
-    EXPECT_EQ(packageNameOf(R"(C:\Packed\Map.UZ)"), "Map.UZ");
+    EXPECT_EQ(packagePathOf(R"(C:\Packed\Map.UZ)"), R"(C:\Packed\Map.UZ)");
 }
 
 TEST(PackageName, IsCutInAFolderToo) {
-    EXPECT_EQ(packageNameOf(R"(C:\maps.uz files\Map.unr.uz)"), "maps");
+    EXPECT_EQ(packagePathOf(R"(C:\maps.uz files\Map.unr.uz)"), R"(C:\maps)");
+}
+
+TEST_F(DecompressBatchTest, RemembersTheNameOfTheFileUnderWork) {
+    list({"DM-A.unr.uz"});
+    disk_.write(R"(C:\Out\DM-A.unr)", "there already");
+    run();
+    EXPECT_EQ(world_.program.LastFileName, "DM-A.unr");
 }
 
 TEST_F(DecompressBatchTest, MovesTheResultOutOfTheSystemFolder) {

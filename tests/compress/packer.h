@@ -89,8 +89,10 @@ inline std::vector<std::string> rowsOf(const ListItems& list) {
 class RecordingBatch : public BatchObserver {
   public:
     std::vector<std::string> seen;
+    bool gone = false;
 
     void setRunning(bool running) override { seen.emplace_back(running ? "running" : "idle"); }
+    bool abandoned() override { return gone; }
     void showExisting(int count) override { seen.push_back("existing " + std::to_string(count)); }
     void showProgress(int position) override {
         seen.push_back("progress " + std::to_string(position));
