@@ -137,6 +137,34 @@ TEST_F(DropForms, ADropOfTextIsRefusedAndChangesNothing) {
     EXPECT_THAT(rowsOf(form.dropped()), IsEmpty());
 }
 
+TEST_F(DropForms, ASourceThatOnlyMovesIsRefused) {
+    comp& form = shown<comp>();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file(R"(C:\a.unr)").string()))});
+    EXPECT_EQ(test::dragAndDrop(list(form), data, {.actions = Qt::MoveAction}), Qt::IgnoreAction);
+    test::serveEvents();
+    EXPECT_THAT(rowsOf(form.dropped()), IsEmpty());
+}
+
+TEST_F(DropForms, TheEffectIsLeftAsItCameUnlessItIsAMove) {
+    comp& form = shown<comp>();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file(R"(C:\a.unr)").string()))});
+    EXPECT_EQ(test::dragAndDrop(list(form), data, {.proposed = Qt::LinkAction}), Qt::LinkAction);
+    EXPECT_EQ(test::dragAndDrop(list(form), data, {.proposed = Qt::CopyAction}), Qt::CopyAction);
+    EXPECT_EQ(test::dragAndDrop(list(form), data, {.proposed = Qt::MoveAction}), Qt::CopyAction);
+    EXPECT_EQ(test::dragAndDrop(list(form), data, {.actions = Qt::MoveAction | Qt::LinkAction}),
+              Qt::LinkAction);
+}
+
+TEST_F(DropForms, OfADropThatMixesFilesAndTheWebOnlyTheFilesAreTaken) {
+    comp& form = shown<comp>();
+    const QByteArray path = QByteArray::fromStdString(file(R"(C:\a.unr)").string());
+    dropAddresses(list(form), "https://example.org/b.unr\r\nfile://" + path +
+                                  "\r\nhttps://example.org/c.unr\r\n");
+    EXPECT_THAT(rowsOf(form.dropped()), ElementsAre(R"(a.unr|C:\|2)"));
+}
+
 TEST_F(DropForms, ALinkToTheWebIsNoFile) {
     comp& form = shown<comp>();
     EXPECT_EQ(dropAddresses(list(form), "https://example.org/a.unr\r\n"), Qt::IgnoreAction);

@@ -13,16 +13,23 @@
 
 namespace tessaro::test {
 
-/// Drags `data` onto the middle of a list and drops it there, as a file manager would that offers
-/// to move. Gives the action that the list took, or IgnoreAction if it refused.
-inline Qt::DropAction dragAndDrop(QAbstractScrollArea& list, const QMimeData& data) {
+/// What a file manager would let the program do with its files, and what it proposes.
+struct Offer {
+    Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    Qt::DropAction proposed = Qt::MoveAction;
+};
+
+/// Drags `data` onto the middle of a list and drops it there. Gives the action that the list took,
+/// or IgnoreAction if it refused.
+inline Qt::DropAction dragAndDrop(QAbstractScrollArea& list, const QMimeData& data,
+                                  const Offer& offer = {}) {
     const QPoint middle = list.viewport()->rect().center();
-    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    const Qt::DropActions offered = offer.actions;
     QDragEnterEvent enter(middle, offered, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(list.viewport(), &enter);
     if (!enter.isAccepted()) return Qt::IgnoreAction;
     QDropEvent drop(middle, offered, &data, Qt::LeftButton, Qt::NoModifier);
-    drop.setDropAction(Qt::MoveAction);
+    drop.setDropAction(offer.proposed);
     QCoreApplication::sendEvent(list.viewport(), &drop);
     return drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
 }

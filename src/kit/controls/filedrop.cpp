@@ -59,11 +59,18 @@ bool FileDrop::eventFilter(QObject*, QEvent* event) {
     }
 }
 
-/// Always as a copy: after a move the file manager could delete the files.
+/// Whoever offers nothing but to move would delete the files afterwards. The effect is left as it
+/// came, but a move becomes the copy that it may be as well.
 void FileDrop::answer(QDropEvent& event) const {
-    const bool files = holdsFiles(*event.mimeData());
-    event.setDropAction(files ? Qt::CopyAction : Qt::IgnoreAction);
-    event.setAccepted(files);
+    const bool onlyMoves = (event.possibleActions() & (Qt::CopyAction | Qt::LinkAction)) == 0;
+    const bool accepted = holdsFiles(*event.mimeData()) && !onlyMoves;
+    if (!accepted) {
+        event.setDropAction(Qt::IgnoreAction);
+    } else if (event.dropAction() == Qt::MoveAction) {
+        event.setDropAction(event.possibleActions() & Qt::CopyAction ? Qt::CopyAction
+                                                                     : Qt::LinkAction);
+    }
+    event.setAccepted(accepted);
 }
 
 void FileDrop::take(const QMimeData& data) {
