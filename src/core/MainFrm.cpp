@@ -28,7 +28,7 @@ MainFrm::MainFrm(Forms& forms, Program& program, MainParts& parts)
     ui_->setupUi(this);
     ui_->client->setPalette(QPalette(groundOfPicture));
     ui_->Image1->setPixmap(programPicture(QStringLiteral(":/pictures/main.png")));
-    setMinimumSize(pixels(smallestMainWindow.width), pixels(smallestMainWindow.height));
+    fitToFrame();
     parts_.buildMenus(*this);
 }
 
@@ -53,6 +53,9 @@ void MainFrm::setState(int state) {
                                           Qt::WindowMaximized};
     if (state < 0 || state > windowstate::Maximised)
         throw RunTimeError(errors::InvalidPropertyValue);
+    // A change comes back through `changeEvent`; a window that is not seen yet is resized even
+    // without.
+    if (!isVisible() && state == this->state()) return handleResize();
     setWindowState(states[state]);
     // A failure in the Resize that has just run was reported there; what called us must not go on.
     forms().throwIfEnded();
@@ -96,28 +99,36 @@ void MainFrm::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         ui_->StatusBar1->showMessage(QStringLiteral("Tessaro"));
-        placeBackground();  // the desktop has framed the window by now
+        fitToFrame();  // the desktop has framed the window by now
     }
     if (event->type() == QEvent::WindowStateChange) {
-        stateIsNew_ = true;
-        followSize();
+        sizeToCome_ = state() != windowstate::Minimised && state() != sizedState_;
+        handleResize();
     }
 }
 
 void MainFrm::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    placeBackground();
-    // The size that comes with a new state belongs to that state's one Resize.
-    if (isVisible() && !std::exchange(stateIsNew_, false)) followSize();
+    fitToFrame();
+    if (isVisible() && !std::exchange(sizeToCome_, false)) handleResize();
 }
 
-void MainFrm::placeBackground() {
-    const MainWindowSize size =
+/// The limits and the picture go by the whole window, its frame included.
+void MainFrm::fitToFrame() {
+    const QSize frame = frameSize() - size();
+    setMinimumSize(pixels(smallestMainWindow.width) - frame.width(),
+                   pixels(smallestMainWindow.height) - frame.height());
+    const MainWindowSize picture =
         backgroundSize({twips(frameSize().width()), twips(frameSize().height())});
-    ui_->Image1->resize(pixels(size.width), pixels(size.height));
+    ui_->Image1->resize(pixels(picture.width), pixels(picture.height));
 }
 
-void MainFrm::followSize() {
+/// The window's one Resize. It runs once for each new state, visible or not, and once for each size
+/// that the visible window gets while it stays in a state. The size that follows a new state
+/// belongs to it and is no Resize of its own; none follows when the window comes back to the state
+/// that it was minimised from, since it has kept that size.
+void MainFrm::handleResize() {
+    if (state() != windowstate::Minimised) sizedState_ = state();
     guarded(forms(), [this] { resizeMainWindow(program_, state()); });
 }
 

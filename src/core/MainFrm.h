@@ -44,14 +44,15 @@ class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void placeBackground();
-    void followSize();
+    void fitToFrame();
+    void handleResize();
 
     Program& program_;
     MainParts& parts_;
     std::unique_ptr<Ui::MainFrm> ui_;
-    bool leaving_ = false;     // Unload runs
-    bool stateIsNew_ = false;  // until the Resize that comes with it
+    bool leaving_ = false;                  // Unload runs
+    int sizedState_ = windowstate::Normal;  // the state to which the window's size belongs
+    bool sizeToCome_ = false;               // of a new state, which has been handled already
 };
 
 }  // namespace tessaro

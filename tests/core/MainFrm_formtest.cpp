@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QResizeEvent>
+#include <QScreen>
 #include <QStatusBar>
 #include <QStatusTipEvent>
 #include <QTest>
@@ -47,6 +49,38 @@ TEST_F(MainWindowForm, ShowsItsCaptionAndOnceActiveItsName) {
     EXPECT_EQ(sounds_, Names{"godlike"});
 }
 
+TEST_F(MainWindowForm, SetsItsStatusTextAtEveryActivation) {
+    MainFrm& window = start();
+    for (int time = 0; time < 2; ++time) {
+        control<QStatusBar>(window, "StatusBar1").showMessage(QStringLiteral("something else"));
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_EQ(control<QStatusBar>(window, "StatusBar1").currentMessage(),
+                  QStringLiteral("Tessaro"));
+    }
+}
+
+TEST_F(MainWindowForm, StandsInTheMiddleAcrossAndALittleAboveIt) {
+    MainFrm& window = start();
+    const QRect screen = window.screen()->geometry();
+    const QRect frame = window.frameGeometry();
+    // The desktop puts its frame round the window only when it shows it.
+    EXPECT_NEAR(frame.center().x(), screen.center().x(), 2);
+    EXPECT_NEAR(frame.top(), screen.height() * 0.85 / 2 - frame.height() / 2.0, 2);
+}
+
+TEST_F(MainWindowForm, RemembersItsLastStateThatWasNotMinimised) {
+    MainFrm& window = start();
+    EXPECT_EQ(program_.LastWindowState, windowstate::Normal);
+    setState(window, windowstate::Maximised);
+    setState(window, windowstate::Minimised);
+    EXPECT_EQ(program_.LastWindowState, windowstate::Maximised);
+}
+
 TEST_F(MainWindowForm, MenusDoNotWipeTheStatusText) {
     MainFrm& window = start();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -60,11 +94,12 @@ TEST_F(MainWindowForm, CannotBeMadeSmallerThanItsLimits) {
     MainFrm& window = start();
     window.resize(10, 10);
     serveEvents();
-    EXPECT_EQ(window.width(), pixels(8000));
-    EXPECT_EQ(window.height(), pixels(6000));
+    // With the frame that the desktop puts round it.
+    EXPECT_EQ(window.frameSize(), QSize(pixels(8000), pixels(6000)));
     window.resize(700, 10);
     serveEvents();
-    EXPECT_EQ(window.size(), QSize(700, pixels(6000)));
+    EXPECT_EQ(window.width(), 700);
+    EXPECT_EQ(window.frameSize().height(), pixels(6000));
 }
 
 TEST_F(MainWindowForm, PictureFollowsTheWindow) {
@@ -102,6 +137,32 @@ TEST_F(MainWindowForm, StoredMaximisedStateComesBackWithItsSoundBeforeTheGreetin
     ASSERT_GE(sounds_.size(), 2u);
     EXPECT_EQ(sounds_[0], "wopen");
     EXPECT_EQ(sounds_[1], "godlike");
+}
+
+TEST_F(MainWindowForm, EveryResizeWhileMaximisedPlaysAgainAlsoAfterAMinimisation) {
+    MainFrm& window = start();
+    sounds_.clear();
+    setState(window, windowstate::Maximised);
+    setState(window, windowstate::Minimised);
+    setState(window, windowstate::Maximised);
+    EXPECT_EQ(sounds_, (Names{"wopen", "wclose", "wopen"}));
+    QResizeEvent larger(window.size() + QSize(10, 10), window.size());
+    QCoreApplication::sendEvent(&window, &larger);
+    EXPECT_EQ(sounds_, (Names{"wopen", "wclose", "wopen", "wopen"}));
+}
+
+TEST_F(MainWindowForm, StoredMinimisedStateOpensMinimisedWithItsSound) {
+    settings("[Misc]\r\nShowSplash=0\r\n[Common]\r\nWindowSize=1\r\n");
+    MainFrm& window = start();
+    EXPECT_TRUE(window.isMinimized());
+    EXPECT_EQ(sounds_, (Names{"wclose", "godlike"}));
+    EXPECT_EQ(program_.settings.WindowSize, "1");
+}
+
+TEST_F(MainWindowForm, StoredNormalStateIsTakenOverAsTheNumberThatItStandsFor) {
+    settings("[Misc]\r\nShowSplash=0\r\n[Common]\r\nWindowSize=0.4\r\n");
+    start();
+    EXPECT_EQ(program_.settings.WindowSize, "0");
 }
 
 TEST_F(MainWindowForm, WindowStateBeyondTheThreeEndsTheProgram) {

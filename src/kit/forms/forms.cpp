@@ -45,7 +45,10 @@ Form& Forms::load(std::type_index type) {
 void Forms::show(Form& form) {
     if (!isLoaded(form)) return;  // its Load closed it again
     QWidget& window = form.window();
-    window.isMinimized() ? window.showNormal() : window.show();
+    // One that the user minimised comes back; one that starts minimised stays so.
+    if (window.isVisible()) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    if (window.isMinimized()) return;
     window.raise();
     window.activateWindow();
 }
