@@ -1,6 +1,9 @@
 #include "core/splash.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "core/mainwindow.h"
 #include "kit/forms/forms.h"
@@ -52,12 +55,14 @@ void splash::paintEvent(QPaintEvent*) {
     QPainter(this).drawPixmap(rect(), picture_);
 }
 
-void splash::mousePressEvent(QMouseEvent*) {
-    guarded(forms(), [this] { acknowledge(); });
+void splash::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) guarded(forms(), [this] { acknowledge(); });
 }
 
-void splash::keyPressEvent(QKeyEvent*) {
-    guarded(forms(), [this] { acknowledge(); });
+void splash::keyPressEvent(QKeyEvent* event) {
+    constexpr int pressing[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space};
+    if (std::find(std::begin(pressing), std::end(pressing), event->key()) != std::end(pressing))
+        guarded(forms(), [this] { acknowledge(); });
 }
 
 }  // namespace tessaro

@@ -14,7 +14,8 @@ class splash;
 
 namespace tessaro {
 
-/// The start-up screen. It goes by itself after three seconds, or at a click or key.
+/// The start-up screen. It goes by itself after three seconds, or at a left click or one of the
+/// keys that press a button: Enter, Esc and the space bar.
 class splash : public FormWindow<QDialog> {
     Q_OBJECT
 
@@ -28,7 +29,7 @@ class splash : public FormWindow<QDialog> {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

@@ -53,10 +53,29 @@ TEST_F(SplashForm, AnswersAClickAndGoesAfterHalfASecond) {
     EXPECT_GE(world_.events.now - start, 0.5);
 }
 
-TEST_F(SplashForm, AKeyIsAsGoodAsAClick) {
-    QTest::keyClick(&shown(), Qt::Key_Escape);
+TEST_F(SplashForm, AKeyThatPressesAButtonIsAsGoodAsAClick) {
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space}) {
+        sounds_.clear();
+        QTest::keyClick(&shown(), static_cast<Qt::Key>(key));
+        EXPECT_EQ(forms_.loaded<splash>(), nullptr) << key;
+        EXPECT_EQ(sounds_, Names{"roger"}) << key;
+    }
+}
+
+TEST_F(SplashForm, OtherKeysAndButtonsDoNotEndIt) {
+    splash& form = shown();
+    QTest::keyClick(&form, Qt::Key_Shift);
+    QTest::keyClick(&form, Qt::Key_A);
+    QTest::mouseClick(&form, Qt::RightButton);
+    QTest::mouseClick(&form, Qt::MiddleButton);
+    EXPECT_EQ(forms_.loaded<splash>(), &form);
+    EXPECT_EQ(sounds_, Names{});
+}
+
+TEST_F(SplashForm, AClickOnOneOfItsTextsCounts) {
+    splash& form = shown();
+    QTest::mouseClick(&control<QLabel>(form, "Label2"), Qt::LeftButton);
     EXPECT_EQ(forms_.loaded<splash>(), nullptr);
-    EXPECT_EQ(sounds_, Names{"roger"});
 }
 
 TEST_F(SplashForm, TimeMayEndDuringTheWaitOfAClick) {
