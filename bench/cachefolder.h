@@ -32,7 +32,8 @@ struct Extracted {
 inline Extracted extract(World& world) {
     FreshProgram fresh(world);
     NoObserver observer;
-    Extraction extraction(fresh.program, observer);
+    CacheEntry entry;
+    Extraction extraction(fresh.program, observer, entry);
     extraction.entry.mypath = "C:\\Out\\";
     extraction.run(cacheFolder);
     return {extraction.ListView1.count(), extraction.List2.size()};

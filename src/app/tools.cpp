@@ -19,7 +19,7 @@ Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
     forms.add<splash>(program);
     forms.add<Skinz>();
     forms.add<Prefs>(program);
-    forms.add<mapext>(program);
+    forms.add<mapext>(program, cacheEntry_);
     forms.add<comp>(program);
     forms.add<comp2>(program);
     forms.add<decomp>(program);
@@ -32,8 +32,8 @@ void Tools::buildMenus(QMainWindow& window) {
                         {
                             {"mnumapextractor", [this] { forms_.show<mapext>(); }},
                             {"mnurmapext", [this] { forms_.showModal<mapext>(); }},
-                            {"mnumapcompress", [this] { forms_.show<comp>(); }},
-                            {"mnurcompress", [this] { forms_.show<comp>(); }},
+                            {"mnumapcompress", [this] { showCompressor(forms_); }},
+                            {"mnurcompress", [this] { showCompressor(forms_); }},
                             {"mnudecomp", [this] { forms_.show<decomp>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cache/cacheindex.h"
 #include "core/mainparts.h"
 #include "core/program.h"
 #include "kit/forms/forms.h"
@@ -18,6 +19,9 @@ class Tools : public MainParts {
 
   private:
     Forms& forms_;
+
+    // Variables of forms that keep their values while the form is closed.
+    CacheEntry cacheEntry_;
 };
 
 }  // namespace tessaro

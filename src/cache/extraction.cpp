@@ -12,8 +12,9 @@ constexpr double secondsPerFile = 0.1;
 
 }  // namespace
 
-Extraction::Extraction(Program& program, ExtractionObserver& observer)
-    : ListView1({{"filename", "Filename"}, {"filetype", "Filetype"}, {"size", "Size"}}),
+Extraction::Extraction(Program& program, ExtractionObserver& observer, CacheEntry& cacheEntry)
+    : entry(cacheEntry),
+      ListView1({{"filename", "Filename"}, {"filetype", "Filetype"}, {"size", "Size"}}),
       program_(program),
       observer_(observer) {}
 

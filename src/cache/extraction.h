@@ -33,9 +33,11 @@ class ExtractionObserver {
 /// number 1 and leaves it open until `StopExtraction` or `closeIndex`.
 class Extraction {
   public:
-    Extraction(Program& program, ExtractionObserver& observer);
+    /// `entry` outlives the extraction: what the last run left in it shows in the next one, also
+    /// after the window was closed in between.
+    Extraction(Program& program, ExtractionObserver& observer, CacheEntry& entry);
 
-    CacheEntry entry;
+    CacheEntry& entry;
     ListItems ListView1;             ///< one row for each file copied
     std::vector<std::string> List2;  ///< the failure record
 

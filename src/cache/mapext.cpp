@@ -15,12 +15,12 @@
 
 namespace tessaro {
 
-mapext::mapext(Forms& forms, Program& program)
+mapext::mapext(Forms& forms, Program& program, CacheEntry& entry)
     : SkinnedForm(forms, {.caption = "UT Cached Files Extractor", .title = "Map Extractor"}),
       phile(program.makeINI()),
       program_(program),
       ui_(std::make_unique<Ui::mapextContent>()),
-      extraction_(program, *this) {
+      extraction_(program, *this, entry) {
     setUpContent(*ui_);
     setupStepOne();
     setupStepTwo();
@@ -41,6 +41,7 @@ void mapext::setupStepOne() {
     on(ui_->Dir1, &FolderList::changed, forms(), [this] { changeFolder(); });
     on(ui_->Command4, &QPushButton::clicked, forms(), [this] { goToTypedFolder(); });
     on(ui_->Command2, &QPushButton::clicked, forms(), [this] { forms().unload(*this); });
+    setCancelButton(*ui_->Command2);
     on(ui_->next, &QPushButton::clicked, forms(), [this] { toStepTwo(); });
 }
 

@@ -16,7 +16,8 @@ class mapext : public SkinnedForm, private ExtractionObserver {
     Q_OBJECT
 
   public:
-    mapext(Forms& forms, Program& program);
+    /// `entry` keeps its values from one opening of the wizard to the next.
+    mapext(Forms& forms, Program& program, CacheEntry& entry);
     ~mapext() override;
 
     void Load() override;

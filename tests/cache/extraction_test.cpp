@@ -81,7 +81,8 @@ class ExtractionRun : public ::testing::Test {
     TestProgram game;
     Program& program = game.program;
     Watcher watcher;
-    Extraction extraction{program, watcher};
+    CacheEntry entry;
+    Extraction extraction{program, watcher, entry};
 };
 
 using Texts = std::vector<std::string>;

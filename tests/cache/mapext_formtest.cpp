@@ -12,6 +12,7 @@
 #include "kit/controls/listview.h"
 #include "kit/look/text.h"
 #include "support/forms/gameforms.h"
+#include "support/forms/texts.h"
 
 namespace tessaro::test {
 namespace {
@@ -78,6 +79,67 @@ TEST_F(WizardForm, LoadPointsAtTheCacheAndOffersTheLastDestination) {
     EXPECT_EQ(program_.settings.ExtractDest, "C:\\Mine");
     EXPECT_EQ(the<QLabel>("validdir").text(), QStringLiteral("Valid Directory!"));
     EXPECT_TRUE(the<QWidget>("next").isEnabled());
+}
+
+const Text wizardTexts[] = {
+    {"Title", "Map Extractor"},
+    {"Frame3", "Step One:"},
+    {"Frame1", "Unreal Tournament Cache Directory"},
+    {"Text1", "C:\\UnrealTournament\\Cache",
+     "This is where we will look for your \"cache.ini\" file"},
+    {"Command4", "✓"},
+    {"Label1",
+     "VORNX will now need to access your cache.ini file located in your cache directory."},
+    {"Label9", "Example: C:\\Unreal Tournament\\Cache\\"},
+    {"validdir", "Not a valid Directory."},
+    {"next", "&Next >>"},
+    {"Command2", "&Cancel"},
+    {"Frame4", "Step Two:"},
+    {"Frame2", "Destination for new files"},
+    {"Option1", "Extract Maps and Textures to current UT installation."},
+    {"Option2",
+     "Create a new Folder to put all Maps and Textures in. (Subfolders will automatically be "
+     "made.)"},
+    {"Command10", "B&rowse"},
+    {"Command1", "&New Folder"},
+    {"Command6", "<< &Back"},
+    {"Command5", "&Next >>"},
+    {"Frame5", "Step Three:"},
+    {"labelText3", "Current File:"},
+    {"labelText4", "Map Name:"},
+    {"labelText5", "File Size:"},
+    {"labelText6", "Destination:"},
+    {"labelText7", "Extracted:"},
+    {"labelText8", "Failed:"},
+    {"labelText9", "Existing files found:"},
+    {"Text7", "", "This is the number of files that were actually copied from your UT Cache"},
+    {"Text8", "", "Failures Occur when UT removes the file(s) listed in the cache.ini"},
+    {"Text9", "", "This is the number of files that were actually copied from your UT Cache"},
+    {"Check1", "Overwrite Existing"},
+    {"Command8", "&Extract"},
+    {"Command3", "&Stop"},
+    {"Command9", "<< Back"},
+};
+
+TEST_F(WizardForm, EveryControlBearsItsTextAndTooltip) {
+    expectTexts(shown(), wizardTexts);
+    EXPECT_TRUE(the<QRadioButton>("Option1").isChecked());
+    EXPECT_FALSE(the<QWidget>("Command3").isEnabled());
+    const QAbstractItemModel* rows = the<ListView>("ListView1").model();
+    EXPECT_EQ(rows->headerData(0, Qt::Horizontal), QStringLiteral("Filename"));
+    EXPECT_EQ(rows->headerData(1, Qt::Horizontal), QStringLiteral("Filetype"));
+    EXPECT_EQ(rows->headerData(2, Qt::Horizontal), QStringLiteral("Size"));
+}
+
+TEST_F(WizardForm, EscCancelsTheFirstStepAndNoOther) {
+    makeCache();
+    shown();
+    press("next");
+    QTest::keyClick(&wizard(), Qt::Key_Escape);
+    EXPECT_NE(forms_.loaded<mapext>(), nullptr);
+    press("Command6");
+    QTest::keyClick(&wizard(), Qt::Key_Escape);
+    EXPECT_EQ(forms_.loaded<mapext>(), nullptr);
 }
 
 TEST_F(WizardForm, FolderWithoutAnIndexDoesNotLeadOn) {
@@ -266,6 +328,48 @@ TEST_F(WizardRun, CopiesShowsAndStaysAfterNo) {
     EXPECT_TRUE(the<QWidget>("Command8").isEnabled());
     EXPECT_FALSE(the<QWidget>("Command3").isEnabled());
     EXPECT_NE(wizard().cursor().shape(), Qt::WaitCursor);
+}
+
+TEST_F(WizardRun, TakesTheFolderOfTheTreeAlsoWhenAnotherOneIsTyped) {
+    disk_.write("C:\\Other\\cache.ini", "[Cache]\r\n");
+    makeCache();
+    shown();
+    type("Text1", "C:\\Other");
+    press("next");
+    press("Command5");
+    world_.dialogs.answer(Answer::No);
+    press("Command8");
+    EXPECT_EQ(textOf("Text4"), "DM-C.unr");
+    EXPECT_EQ(disk_.names("C:\\UnrealTournament\\Maps"),
+              (Names{"DM-A.unr", "DM-B.unr", "DM-C.unr"}));
+}
+
+TEST_F(WizardRun, TheFirstRowOfANewWizardShowsTheLastKindOfTheOneBefore) {
+    goToStepThree();
+    world_.dialogs.answer(Answer::Yes);
+    press("Command8");
+    ASSERT_EQ(forms_.loaded<mapext>(), nullptr);
+    disk_.write(cache_ + "\\cache.ini", std::string(32, 'A') + "=New.u\r\n");
+    shown();
+    press("next");
+    press("Command5");
+    world_.dialogs.answer(Answer::No);
+    press("Command8");
+    EXPECT_EQ(the<ListView>("ListView1").items()->item(1).subItems.at(0), "Map File");
+}
+
+TEST_F(WizardRun, ANameWithoutAnExtensionIsMeasuredByWhatTheWizardBeforeLeft) {
+    goToStepThree();
+    world_.dialogs.answer(Answer::Yes);
+    press("Command8");  // leaves the length of ".unr"
+    disk_.write(cache_ + "\\cache.ini",
+                std::string(32, 'A') + "=Odd.unr\r\n" + std::string(32, 'B') + "=x.utx5\r\n");
+    shown();
+    press("next");
+    press("Command5");
+    world_.dialogs.answer(Answer::No);
+    press("Command8");
+    EXPECT_EQ(disk_.read("C:\\UnrealTournament\\Maps\\Odd.unr"), std::string(2345, 'A'));
 }
 
 TEST_F(WizardRun, OverwritesOnlyWhereTheBoxIsTicked) {
