@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/runtime/runtimeerror.h"
 #include "platform/text/numbers.h"
 
 namespace tessaro {
@@ -71,6 +72,13 @@ void countRun(Program& program) {
     program.ini.setKeyValue("TimesUsed", std::to_string(timesUsed), "Misc");
 }
 
+/// A text that is no number names no skin, as a number past the three does.
+bool namesSkin(std::string_view text, int number) {
+    bool named = false;
+    attempt([&] { named = equalsNumber(text, number); });
+    return named;
+}
+
 }  // namespace
 
 void LoadSettings(Program& program) {
@@ -95,9 +103,9 @@ void SettingsToPrefs(const Program& program, PrefsOptions& controls) {
     controls.defUser = settings.DefUser;
     controls.asciiFont = settings.ASCIIFont;
     controls.showSplash = toInteger(settings.ShowSplash);
-    controls.firstSkin = equalsNumber(settings.Skin, 0);
-    controls.secondSkin = equalsNumber(settings.Skin, 1);
-    controls.thirdSkin = equalsNumber(settings.Skin, 2);
+    controls.firstSkin = namesSkin(settings.Skin, 0);
+    controls.secondSkin = namesSkin(settings.Skin, 1);
+    controls.thirdSkin = namesSkin(settings.Skin, 2);
 }
 
 void PrefsToSettings(Program& program, const PrefsOptions& controls) {

@@ -36,7 +36,7 @@ struct PrefsOptions {
 void LoadSettings(Program& program);
 /// Record to settings file, all but the run count.
 void SaveSettings(Program& program);
-/// Record to dialog. Raises 13 for a `Skin` that is no number.
+/// Record to dialog. Raises 13 for a flag that is no number.
 void SettingsToPrefs(const Program& program, PrefsOptions& controls);
 /// Dialog to record; the three inner folders follow the game folder.
 void PrefsToSettings(Program& program, const PrefsOptions& controls);

@@ -53,7 +53,9 @@ std::int32_t GetOSVersion(OSVersionInfo& info, const std::optional<SystemVersion
     info.platform = version->platform;
     // On the older line the upper half of the build repeats the version.
     info.build = version->platform == windows9x ? version->build & 0xFFFF : version->build;
-    info.servicePack = version->servicePack.substr(0, version->servicePack.find('\0'));
+    // The field ends at its NUL; without one it counts as empty.
+    const std::size_t end = version->servicePack.find('\0');
+    info.servicePack = end == std::string::npos ? "" : version->servicePack.substr(0, end);
     setCodeAndName(info, *version);
     return 1;
 }

@@ -21,13 +21,16 @@ void dropLink(Program& program, const std::string& file) {
     if (host.target(path) != path) host.removeFile(path);
 }
 
-/// The game finds an index without entries.
+/// The game finds an index without entries. Each statement stands alone: where the number is in use
+/// the line goes into whatever is open under it, and that file is closed.
 void writeEmptyIndex(Program& program) {
     const std::string index = cacheIndexIn(program.gamePaths.UTCachePath);
-    dropLink(program, index);
-    program.table.openOutput(sharedFileNumber, index);
-    program.table.printLine(sharedFileNumber, "[Cache]");
-    program.table.close(sharedFileNumber);
+    attempt([&] {
+        dropLink(program, index);
+        program.table.openOutput(sharedFileNumber, index);
+    });
+    attempt([&] { program.table.printLine(sharedFileNumber, "[Cache]"); });
+    attempt([&] { program.table.close(sharedFileNumber); });
 }
 
 void clearCache(Program& program) {
@@ -43,7 +46,7 @@ void clearCache(Program& program) {
     // As a wildcard always did, this leaves hidden and system files and folders alone; of a link
     // only the link goes.
     attempt([&] { program.files.deleteWhatGoes(program.gamePaths.UTCachePath + "\\*.*"); });
-    attempt([&] { writeEmptyIndex(program); });
+    writeEmptyIndex(program);
 }
 
 void clearTempFiles(Program& program) {

@@ -75,11 +75,32 @@ TEST_F(Settings, RunCountBeyondItsWidthOverflows) {
 }
 
 TEST_F(Settings, RunIsCountedBeforeALaterSettingIsRead) {
+    game.world.write(settingsFile, "[Misc]\r\nTimesUsed=7\r\n");
+    LoadSettings(program);
+    // What the file lacks is added in the order of reading, so the count that was written stands
+    // before it.
+    const std::string text = game.world.read(settingsFile);
+    EXPECT_LT(text.find("TimesUsed=8\r\n"), text.find("Skin=0\r\n"));
+    game.world.write(settingsFile, "[Misc]\r\nTimesUsed=32767\r\nSkin=1\r\n");
+    program.settings.Skin = "untouched";
+    errorOf([&] { LoadSettings(program); });
+    EXPECT_EQ(program.settings.Skin, "untouched");
+}
+
+TEST_F(Settings, RunThatCannotBeWrittenBackIsCountedInMemoryAlone) {
     game.world.write(settingsFile, "[Misc]\r\nTimesUsed=7\r\nSkin=1\r\n");
     game.world.host.refuse(Call::Rename, errors::DiskFull, "vornx");
-    LoadSettings(program);  // a file that cannot be written is not noticed
+    LoadSettings(program);
     EXPECT_EQ(program.settings.TimesUsed, 8);
     EXPECT_NE(game.world.read(settingsFile).find("TimesUsed=7\r\n"), std::string::npos);
+}
+
+TEST_F(Settings, SaveWritesTheOptionsInTheirOrder) {
+    SaveSettings(program);
+    EXPECT_EQ(game.world.read(settingsFile),
+              "[UTPaths]\r\nUTPath=\r\nUTCachePath=\r\nUTMapPath=\r\nUTSysPath=\r\n"
+              "[Misc]\r\nSounds=\r\nAutoSave=\r\nShowSplash=\r\nSkin=\r\n"
+              "[Common]\r\nVORNX=\r\nDefUser=\r\nASCIIFont=\r\nWindowSize=\r\n");
 }
 
 TEST_F(Settings, SaveWritesEveryOptionButTheRunCount) {
@@ -149,6 +170,21 @@ TEST_F(Settings, SkinOutsideTheThreeSelectsNoOption) {
     PrefsOptions controls;
     SettingsToPrefs(program, controls);
     EXPECT_FALSE(controls.firstSkin || controls.secondSkin || controls.thirdSkin);
+}
+
+TEST_F(Settings, SkinThatIsNoNumberSelectsNoOptionAndRaisesNothing) {
+    LoadSettings(program);
+    program.settings.Skin = "black";
+    PrefsOptions options;
+    EXPECT_EQ(errorOf([&] { SettingsToPrefs(program, options); }), 0);
+    EXPECT_FALSE(options.firstSkin || options.secondSkin || options.thirdSkin);
+}
+
+TEST_F(Settings, FlagThatIsNoNumberStopsTheFillingOfTheDialog) {
+    LoadSettings(program);
+    program.settings.AutoSave = "always";
+    PrefsOptions options;
+    EXPECT_EQ(errorOf([&] { SettingsToPrefs(program, options); }), errors::TypeMismatch);
 }
 
 TEST_F(Settings, DialogSetsTheInnerFoldersFromTheGameFolder) {

@@ -71,5 +71,12 @@ TEST(SystemVersionRecord, ServicePackIsCutAtItsFirstNul) {
     EXPECT_EQ(info.servicePack, "Service Pack 4");
 }
 
+TEST(SystemVersionRecord, ServicePackWithoutANulIsEmpty) {
+    OSVersionInfo info;
+    info.servicePack = "before";
+    GetOSVersion(info, SystemVersion{5, 0, 2195, 2, std::string(128, 'x'), {}});
+    EXPECT_EQ(info.servicePack, "");
+}
+
 }  // namespace
 }  // namespace tessaro::test

@@ -182,11 +182,11 @@ TEST_F(WipeTest, RefusesTheTemporaryFilesWithoutTheGamesFolder) {
     EXPECT_EQ(test.dialogs.messages, (std::vector<Message>{cacheQuestion, tempQuestion, refusal}));
 }
 
-TEST_F(WipeTest, DoesNotTouchAnIndexThatSomeoneReadsUnderTheSameNumber) {
+TEST_F(WipeTest, OfAnIndexThatSomeoneReadsUnderTheSameNumberOnlyTheClosingComesTrue) {
     program.table.openInput(1, cache + "\\cache.ini");
     wipe(Answer::Yes, Answer::No);
     EXPECT_EQ(cached(), Names{});
-    EXPECT_EQ(program.table.lineInput(1), "[Cache]");
+    EXPECT_EQ(errorOf([&] { program.table.endOfFile(1); }), errors::BadFileNumber);
 }
 
 }  // namespace
