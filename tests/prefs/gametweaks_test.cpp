@@ -196,6 +196,24 @@ TEST_F(GameTweaksTest, TheBoxWritesTrueOrFalseAndNothingWhenGreyed) {
     EXPECT_EQ(ladderAfter(0), "[Botpack.Ladder]\r\nHasBeatenGame=False\r\n");
 }
 
+TEST_F(GameTweaksTest, SavingWritesTheDaysAheadOfTheMap) {
+    writeFiles("", "");
+    tweaks.startMap = StartMap::BlackLogo;
+    save();
+    EXPECT_EQ(game(), "[Core.System]\r\nPurgeCacheDays=30\r\n[URL]\r\nLocalMap=entry.unr\r\n");
+}
+
+TEST_F(GameTweaksTest, SavingWritesTheGamesFileAheadOfTheUsersFileAndEndsWithTheSound) {
+    writeFiles("", "");
+    tweaks.bossSkins = 1;
+    test.sounds.onStart = [&] {
+        EXPECT_EQ(game(), "[Core.System]\r\nPurgeCacheDays=30\r\n");
+        EXPECT_EQ(user(), "[Botpack.Ladder]\r\nHasBeatenGame=True\r\n");
+    };
+    save();
+    EXPECT_EQ(test.sounds.names, std::vector<std::string>{"ladvance"});
+}
+
 TEST_F(GameTweaksTest, SavingCreatesFilesThatAreNotThere) {
     test.world.makeFolder("C:\\UT\\system");
     tweaks.bossSkins = 1;

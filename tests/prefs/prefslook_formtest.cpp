@@ -8,24 +8,12 @@
 #include <QRadioButton>
 
 #include "prefs/prefsformfixture.h"
+#include "support/forms/texts.h"
 
 namespace tessaro::test {
 namespace {
 
-
 class PrefsLook : public PrefsFormFixture {};
-
-/// A control's text and its own tooltip.
-struct Text {
-    const char* name;
-    const char* text;
-    const char* toolTip;
-};
-
-QString shownText(const QObject& control) {
-    const char* property = qobject_cast<const QGroupBox*>(&control) != nullptr ? "title" : "text";
-    return control.property(property).toString();
-}
 
 const Text texts[] = {
     {"Title", "Preferences", ""},
@@ -68,12 +56,9 @@ const Text texts[] = {
 TEST_F(PrefsLook, EveryControlBearsItsTextAndTooltip) {
     openOnGame();
     EXPECT_EQ(loaded()->windowTitle(), QStringLiteral("Ovrin Tessaro"));
-    for (const Text& expected : texts) {
-        const QWidget& shown = control<QWidget>(expected.name);
-        EXPECT_TRUE(shown.isVisible()) << expected.name;
-        EXPECT_EQ(shownText(shown), QLatin1String(expected.text)) << expected.name;
-        EXPECT_EQ(shown.toolTip(), QLatin1String(expected.toolTip)) << expected.name;
-    }
+    for (const Text& expected : texts)
+        EXPECT_TRUE(control<QWidget>(expected.name).isVisible()) << expected.name;
+    expectTexts(*loaded(), texts);
 }
 
 TEST_F(PrefsLook, TheNumberOfStartsHasNoLeadingZeros) {

@@ -30,6 +30,7 @@ std::string RecordingSounds::resource(std::string_view name) {
 
 int RecordingSounds::start(std::string_view name) {
     names.push_back(known(name));
+    if (onStart) onStart();
     return 1;
 }
 

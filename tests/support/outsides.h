@@ -15,6 +15,7 @@ namespace tessaro::test {
 class RecordingSounds : public Sounds {
   public:
     std::vector<std::string> names;
+    std::function<void()> onStart;
 
     /// Some bytes that tell the sounds apart.
     std::string resource(std::string_view name) override;
