@@ -323,11 +323,41 @@ TEST_F(ExtractionRun, RefusedTargetEndsTheRunWithoutAWord) {
 TEST_F(ExtractionRun, MoreFailuresThanTheCounterHoldsEndTheRun) {
     std::string text;
     for (int i = 0; i < 32767; ++i) text += guidOf(i) + "\n";
-    index(text);
-    run();
+    // In a folder of its own: the announcement counts the lines of the configured cache.
+    index("");
+    game.world.write("C:\\Other\\" + guidOf(40000) + ".uxx", std::string(500, 'x'));
+    game.world.write("C:\\Other\\cache.ini",
+                     text + lineOf(40000, "after.u") + lineOf(40001, "gone.u"));
+    game.dialogs.answer(Answer::No);
+    extraction.run("C:\\Other");
     EXPECT_EQ(shown(ExtractionBox::Failed), "32767");
     EXPECT_EQ(game.dialogs.messages, std::vector<Message>{closingQuestion});
-    EXPECT_EQ(watcher.shown[ExtractionBox::Existing], "0");
+    EXPECT_FALSE(game.world.exists("C:\\UT\\system\\after.u"));
+    EXPECT_EQ(extraction.ListView1.count(), 0u);
+}
+
+TEST_F(ExtractionRun, ClearsTheListThenAnnouncesAndOnlyThenMakesTheFolders) {
+    indexOf({"a.u"});
+    run();
+    std::filesystem::remove_all(game.world.at("C:\\UT\\music"));
+    bool announced = false;
+    game.sounds.onStart = [&] {
+        announced = true;
+        EXPECT_EQ(extraction.ListView1.count(), 0u);
+        EXPECT_FALSE(watcher.running);
+        EXPECT_FALSE(game.world.exists("C:\\UT\\music"));
+    };
+    run();
+    EXPECT_TRUE(announced);
+    EXPECT_TRUE(game.world.exists("C:\\UT\\music"));
+}
+
+TEST_F(ExtractionRun, AFolderThatMayNotBeMadeEndsTheProgram) {
+    indexOf({"a.u"});
+    game.world.host.refuse(Call::MakeFolder, errors::PermissionDenied, "textures");
+    EXPECT_EQ(errorOf([&] { extraction.run(cache); }), errors::PermissionDenied);
+    EXPECT_TRUE(watcher.running);  // as the run had left the buttons by then
+    EXPECT_FALSE(game.world.exists("C:\\UT\\system\\a.u"));
 }
 
 TEST_F(ExtractionRun, StopDuringAPauseStillCopiesThatFileAndAsksNothing) {
