@@ -1,17 +1,17 @@
-# tessaro_folder(FORMS a b): the sources of the current folder. Those named as forms (a.cpp, with
-# a.ui if there is one) belong to the forms library, all others to the logic.
+# tessaro_folder(FORMS a b): the sources of the current folder and of those in it. The ones named as
+# forms (a.cpp) belong to the forms library, all others to the logic.
+# tessaro_folder(ONLY_FORMS): all of them belong to the forms library.
 function(tessaro_folder)
-    cmake_parse_arguments(ARG "" "" "FORMS" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS *.cpp)
-    foreach(form ${ARG_FORMS})
-        list(FILTER sources EXCLUDE REGEX "/${form}\\.cpp$")
-        if(TESSARO_FORMS)
-            target_sources(tessaro_forms PRIVATE ${form}.cpp ${form}.h)
-            # Named as a source, or a change of it alone would come into the program one build late.
-            if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${form}.ui)
-                target_sources(tessaro_forms PRIVATE ${form}.ui)
-            endif()
-        endif()
-    endforeach()
-    target_sources(tessaro_logic PRIVATE ${sources})
+    cmake_parse_arguments(PARSE_ARGV 0 ARG "ONLY_FORMS" "" "FORMS")
+    file(GLOB_RECURSE logic CONFIGURE_DEPENDS *.cpp)
+    set(forms ${ARG_FORMS})
+    list(TRANSFORM forms REPLACE ".+" "${CMAKE_CURRENT_SOURCE_DIR}/\\0.cpp")
+    if(ARG_ONLY_FORMS)
+        set(forms ${logic})
+    endif()
+    list(REMOVE_ITEM logic ${forms})
+    target_sources(tessaro_logic PRIVATE ${logic})
+    if(TESSARO_FORMS)
+        target_sources(tessaro_forms PRIVATE ${forms})
+    endif()
 endfunction()

@@ -1,7 +1,11 @@
 # What every target of the project compiles with.
 add_library(tessaro_options INTERFACE)
 target_compile_features(tessaro_options INTERFACE cxx_std_20)
-target_compile_options(tessaro_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+target_compile_options(tessaro_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+# Not for those who only build the program: the next compiler warns of more.
+if(TESSARO_WERROR)
+    target_compile_options(tessaro_options INTERFACE -Werror)
+endif()
 
 if(TESSARO_SANITIZE)
     target_compile_options(tessaro_options INTERFACE
