@@ -455,6 +455,17 @@ TEST_F(ExtractionRun, TwoLinesOfOneNameMeetEachOther) {
     EXPECT_EQ(game.world.read("C:\\UT\\system\\a.u"), std::string(1234, 'a'));
 }
 
+TEST_F(ExtractionRun, TrueNameWithANulReplacesNothingAndEndsTheRun) {
+    game.world.write("C:\\UT\\system\\Botpack.u", "mine");
+    cached(0, std::string(500, 'x'));
+    cached(1, std::string(500, 'y'));
+    index(lineOf(0, std::string("Botpack.u\0x.u", 13)) + lineOf(1, "b.u"));
+    run();
+    EXPECT_EQ(game.world.read("C:\\UT\\system\\Botpack.u"), "mine");
+    EXPECT_EQ(game.world.names("C:\\UT\\system"), Texts{"Botpack.u"});
+    EXPECT_EQ(game.dialogs.messages, std::vector<Message>{closingQuestion});
+}
+
 TEST_F(ExtractionRun, DamagedIndexLosesNothing) {
     const std::string nuls("\0\0\n\0=\r\r\n", 8);
     for (const std::string& text :

@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <random>
 
 #include "platform/files/wholefile.h"
@@ -153,6 +154,41 @@ TEST(PosixHost, ReadingRefusesWhatHasNoEnd) {
     EXPECT_EQ(errorOf([&] { real.host->read(pipe); }), errors::PathFileAccess);
     EXPECT_EQ(errorOf([&] { real.host->read("/dev/zero"); }), errors::PathFileAccess);
     EXPECT_EQ(errorOf([&] { real.host->read(real.folder.path()); }), errors::PathFileAccess);
+}
+
+TEST(PosixHost, NoCallTakesANameWithANulForTheOneBeforeIt) {
+    const Real real;
+    Host& host = *real.host;
+    const HostPath file = real.write("file", "old");
+    const HostPath nul = file.native() + std::string("\0.u", 3);
+    const HostPath folder = real.folder.path().native() + std::string("\0x", 2);
+    fs::create_directory(real.folder.path() / "empty");
+    const HostPath inside = (real.folder.path() / "fresh").native() + std::string("\0x", 2);
+    const std::function<void()> calls[] = {
+        [&] { host.list(folder); },
+        [&] { host.hold(folder); },
+        [&] { host.writable(nul); },
+        [&] { host.read(nul); },
+        [&] { host.create(inside, {}); },
+        [&] { host.create(real.folder.path() / "new", nul); },
+        [&] { host.touch(inside); },
+        [&] { host.copy(nul, real.folder.path() / "new", {}); },
+        [&] { host.copy(file, inside, {}); },
+        [&] { host.rename(nul, real.folder.path() / "new"); },
+        [&] { host.rename(file, inside); },
+        [&] { host.flushFolder(folder); },
+        [&] { host.removeFile(nul); },
+        [&] { host.makeFolder(inside); },
+        [&] { host.target(nul); },
+        [&] { host.changeFolder(folder); },
+    };
+    for (const auto& call : calls) {
+        EXPECT_EQ(errorOf(call), errors::BadFileNumber) << &call - calls;
+    }
+    EXPECT_FALSE(host.status(nul));
+    EXPECT_FALSE(host.lock(folder, std::chrono::milliseconds(0)));
+    EXPECT_THAT(host.list(real.folder.path()), UnorderedElementsAre("file", "empty"));
+    EXPECT_EQ(TestWorld::readHost(file), "old");
 }
 
 TEST(PosixHost, TellsItsOwnFileAndSystem) {
