@@ -1,6 +1,7 @@
 #include "platform/files/files.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -104,6 +105,31 @@ TEST(Files, ALinkThatLeadsNowhereIsNotListed) {
     fs::create_symlink("gone", world.at("C:\\link"));
     EXPECT_EQ(world.files.firstMatch("C:\\link", all), "");
     EXPECT_THAT(world.files.list("C:\\*.*", all), IsEmpty());
+}
+
+TEST(Files, ANameThatCannotBeAskedForIsPassedOver) {
+    TestWorld world;
+    for (const char* name : {"a", "m", "z"}) world.write(std::string("C:\\s\\") + name, "");
+    world.makeFolder("C:\\s\\folder");
+    world.host.refuse(Call::Status, errors::PermissionDenied, "/m");
+    EXPECT_THAT(world.files.list("C:\\s\\*.*", all), ElementsAre("a", "z"));
+    EXPECT_THAT(world.files.list("C:\\s\\*", attributes::Directory),
+                ElementsAre(".", "..", "a", "folder", "z"));
+    EXPECT_EQ(world.files.firstMatch("C:\\s\\m", all), "");
+    world.files.deleteFiles("C:\\s\\*.*");
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("folder", "m"));
+}
+
+TEST(Files, ALinkIntoALockedFolderDoesNotHideItsNeighbours) {
+    if (::geteuid() == 0) GTEST_SKIP() << "root may look anywhere";
+    TestWorld world;
+    world.write("C:\\locked\\x", "");
+    world.write("C:\\s\\a", "");
+    world.write("C:\\s\\z", "");
+    fs::create_symlink("../locked/x", world.at("C:\\s\\link"));
+    fs::permissions(world.at("C:\\locked"), fs::perms::none);
+    EXPECT_THAT(world.files.list("C:\\s\\*.*", all), ElementsAre("a", "z"));
+    fs::permissions(world.at("C:\\locked"), fs::perms::owner_all);
 }
 
 TEST(Files, NamesThatNoFileCanBearAreNotThere) {
