@@ -429,6 +429,17 @@ TEST_F(ExtractionRun, MakesTheFiveFoldersButNoneBesideOneOfOtherCase) {
               (Texts{"Cache", "Maps", "SYSTEM", "music", "sounds", "textures"}));
 }
 
+TEST_F(ExtractionRun, MakesNoTwinsWhereNamesCannotBeListed) {
+    indexOf({"a.u"});
+    for (const char* folder : {"Maps", "System", "Textures", "Sounds", "Music"}) {
+        game.world.makeFolder(std::string("C:\\UT\\") + folder);
+    }
+    const Texts before = game.world.names("C:\\UT");
+    game.world.host.refuse(Call::List, errors::TooManyFiles, "/UT");
+    EXPECT_EQ(errorOf([&] { extraction.run(cache); }), errors::TooManyFiles);
+    EXPECT_EQ(game.world.names("C:\\UT"), before);
+}
+
 TEST_F(ExtractionRun, FoldersOfADestinationOnAnotherDriveAreMadeOnTheCurrentOne) {
     indexOf({"a.u"});
     program.paths.changeFolder("C:\\UT");
