@@ -56,13 +56,14 @@ class FolderLock {
 };
 
 /// What the program asks of the operating system's files. Links are followed. Every member raises
-/// RunTimeError with the number that fits the host's error, 52 for a name that no file can bear (one
-/// with a NUL in it); the failing twin of the tests raises where it is told to.
+/// RunTimeError with the number that fits the host's error, 52 for a name that no file can bear
+/// (one with a NUL in it); the failing twin of the tests raises where it is told to.
 class Host {
   public:
     virtual ~Host() = default;
 
-    /// Nothing if there is no such name, or can be none. Raises 70 if the folder may not be searched.
+    /// Nothing if there is no such name, or can be none. Raises 70 if the folder may not be
+    /// searched.
     virtual std::optional<HostStatus> status(const HostPath& path) = 0;
     /// Names in a folder, in the host's order, without "." and "..".
     virtual std::vector<std::string> list(const HostPath& folder) = 0;

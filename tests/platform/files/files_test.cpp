@@ -249,6 +249,19 @@ TEST(Files, DeletesWhatMatchesButNoFolders) {
     EXPECT_THAT(world.names("C:\\s"), ElementsAre("cache.ini", "cache3.tmp"));
 }
 
+TEST(Files, ANameWithAColonIsAFileLikeOthers) {
+    TestWorld world;
+    world.write("C:\\s\\x:y.unr", "text");
+    const auto names = world.files.list("C:\\s\\*.unr", attributes::Normal);
+    ASSERT_THAT(names, ElementsAre("x\uF03Ay.unr"));
+    const std::string file = "C:\\s\\" + names.front();
+    EXPECT_EQ(world.files.fileLength(file), 4U);
+    world.files.copyFile(file, file + ".uz");
+    EXPECT_EQ(world.files.firstMatch(file + ".uz", attributes::Normal), "x\uF03Ay.unr.uz");
+    world.files.deleteFiles(file);
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("x:y.unr.uz"));
+}
+
 TEST(Files, DeletesOneFileByItsName) {
     TestWorld world;
     world.write("C:\\s\\User.ini", "");
