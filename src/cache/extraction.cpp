@@ -106,7 +106,12 @@ void Extraction::extract() {
     }
 }
 
+/// What the index holds came from the servers that the player visited. A name that leads out of the
+/// destination is none that a file can bear.
 void Extraction::copyTo(const std::string& destination) {
+    if (!program_.paths.isInside(destination, entry.mypath)) {
+        throw RunTimeError(errors::BadFileNumber, destination);
+    }
     if (FileExists(program_, destination) == Yes) {
         ++entry.EFile;
         if (!observer_.overwriteExisting()) return;

@@ -460,6 +460,17 @@ TEST_F(ExtractionRun, MakesTheFiveFoldersButNoneBesideOneOfOtherCase) {
               (Texts{"Cache", "Maps", "SYSTEM", "music", "sounds", "textures"}));
 }
 
+TEST_F(ExtractionRun, MakesNoTwinsWhereNamesCannotBeListed) {
+    indexOf({"a.u"});
+    for (const char* folder : {"Maps", "System", "Textures", "Sounds", "Music"}) {
+        game.world.makeFolder(std::string("C:\\UT\\") + folder);
+    }
+    const Texts before = game.world.names("C:\\UT");
+    game.world.host.refuse(Call::List, errors::TooManyFiles, "/UT");
+    EXPECT_EQ(errorOf([&] { extraction.run(cache); }), errors::TooManyFiles);
+    EXPECT_EQ(game.world.names("C:\\UT"), before);
+}
+
 TEST_F(ExtractionRun, FoldersOfADestinationOnAnotherDriveAreMadeOnTheCurrentOne) {
     indexOf({"a.u"});
     program.paths.changeFolder("C:\\UT");
@@ -479,11 +490,69 @@ TEST_F(ExtractionRun, TrueNameWithAPathIsJoinedAsItStands) {
     EXPECT_TRUE(game.world.exists("C:\\UT\\system\\sub\\a.u"));
 }
 
+TEST_F(ExtractionRun, TrueNameThatStaysInsideTheDestinationIsTaken) {
+    indexOf({"..\\Maps\\a.u", "./b.u", "sub\\..\\c.u"});
+    game.world.makeFolder("C:\\UT\\system\\sub");
+    run();
+    EXPECT_EQ(game.world.names("C:\\UT\\maps"), Texts{"a.u"});
+    EXPECT_EQ(game.world.names("C:\\UT\\system"), (Texts{"b.u", "c.u", "sub"}));
+}
+
+TEST_F(ExtractionRun, TrueNameThatLeadsOutOfTheDestinationEndsTheRun) {
+    for (const char* name : {R"(..\..\Startup\x.u)", R"(../../Startup/x.u)", R"(..\..\x.u)",
+                             R"(..\..\UTother\x.u)", R"(sub\..\..\..\Startup\x.u)"}) {
+        SCOPED_TRACE(name);
+        for (const char* file : {"C:\\Startup\\x.u", "C:\\x.u", "C:\\UTother\\x.u"}) {
+            game.world.write(file, "theirs");
+        }
+        indexOf({"a.u", name, "b.u"});
+        for (watcher.overwrite = false;; watcher.overwrite = true) {
+            game.dialogs.messages.clear();
+            run();
+            EXPECT_EQ(game.world.names("C:\\UT\\system"), Texts{"a.u"});
+            EXPECT_EQ(game.world.read("C:\\Startup\\x.u"), "theirs");
+            EXPECT_EQ(game.world.read("C:\\x.u"), "theirs");
+            EXPECT_EQ(game.world.read("C:\\UTother\\x.u"), "theirs");
+            EXPECT_EQ(game.dialogs.messages, std::vector<Message>{closingQuestion});
+            if (watcher.overwrite) break;
+        }
+        EXPECT_EQ(shown(ExtractionBox::MapName), name);
+    }
+}
+
+TEST_F(ExtractionRun, TrueNameThatLeadsOutButHasNoKindIsPassedOver) {
+    indexOf({R"(..\..\x.int)", "b.u"});
+    run();
+    EXPECT_EQ(game.world.names("C:\\UT\\system"), Texts{"b.u"});
+}
+
+TEST_F(ExtractionRun, TrueNameWithLettersThatMeanSomethingIsKeptUnlessOverwritten) {
+    for (const char* name : {"x:y.u", "x\"y.u"}) {
+        indexOf({name});
+        game.world.write(std::string("C:\\UT\\system\\") + name, "mine");
+        run();
+        EXPECT_EQ(shown(ExtractionBox::Existing), "1");
+        EXPECT_EQ(game.world.read(std::string("C:\\UT\\system\\") + name), "mine");
+    }
+    EXPECT_EQ(game.world.names("C:\\UT\\system"), (Texts{"x\"y.u", "x:y.u"}));
+}
+
 TEST_F(ExtractionRun, TwoLinesOfOneNameMeetEachOther) {
     indexOf({"a.u", "a.u"});
     run();
     EXPECT_EQ(shown(ExtractionBox::Existing), "1");
     EXPECT_EQ(game.world.read("C:\\UT\\system\\a.u"), std::string(1234, 'a'));
+}
+
+TEST_F(ExtractionRun, TrueNameWithANulReplacesNothingAndEndsTheRun) {
+    game.world.write("C:\\UT\\system\\Botpack.u", "mine");
+    cached(0, std::string(500, 'x'));
+    cached(1, std::string(500, 'y'));
+    index(lineOf(0, std::string("Botpack.u\0x.u", 13)) + lineOf(1, "b.u"));
+    run();
+    EXPECT_EQ(game.world.read("C:\\UT\\system\\Botpack.u"), "mine");
+    EXPECT_EQ(game.world.names("C:\\UT\\system"), Texts{"Botpack.u"});
+    EXPECT_EQ(game.dialogs.messages, std::vector<Message>{closingQuestion});
 }
 
 TEST_F(ExtractionRun, DamagedIndexLosesNothing) {

@@ -89,6 +89,20 @@ std::vector<std::string> manyNames() {
     return names;
 }
 
+TEST_F(RealUcc, ANameWithAColonGoesThereAndBack) {
+    const std::string name = "x:y.unr";
+    const std::string named = "x\uF03Ay.unr";
+    disk_.write("C:\\Maps\\" + name, bytesOf(name));
+    packer_.fillBatch(compression_.ListView1, {"C:\\Maps\\" + named});
+    run(compression_);
+    EXPECT_THAT(disk_.names("C:\\Maps"), ElementsAre(name));
+    EXPECT_THAT(disk_.names("C:\\Out"), ElementsAre(name + ".uz"));
+    listPacked({named});
+    run(decompression_);
+    EXPECT_EQ(disk_.read("C:\\Back\\" + name), bytesOf(name));
+    EXPECT_FALSE(disk_.exists("C:\\UnrealTournament\\System\\" + name));
+}
+
 TEST_F(RealUcc, TwoHundredFilesGoThereAndBack) {
     const std::vector<std::string> names = manyNames();
     pack(names);

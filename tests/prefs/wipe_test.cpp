@@ -46,6 +46,12 @@ TEST_F(WipeTest, EmptiesTheCacheAndLeavesAnIndexOfOneLine) {
     EXPECT_TRUE(test.sounds.names.empty());
 }
 
+TEST_F(WipeTest, ANameThatCannotBeAskedForDoesNotSaveTheOthers) {
+    test.world.host.refuse(Call::Status, errors::PermissionDenied, "1234.tmp");
+    wipe(Answer::Yes, Answer::No);
+    EXPECT_EQ(cached(), (Names{"1234.tmp", "cache.ini"}));
+}
+
 TEST_F(WipeTest, AsksAboutTheTemporaryFilesAlsoAfterANo) {
     wipe(Answer::No, Answer::No);
     EXPECT_EQ(cached().size(), 4U);

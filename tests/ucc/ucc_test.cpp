@@ -1,5 +1,9 @@
 // The stand-ins, started as the program starts the game's own.
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "platform/files/host.h"
 #include "support/programfolder.h"
 #include "tools/ucc/programs.h"
@@ -74,6 +78,35 @@ TEST_F(UccTest, MissingSourceAndFoldersLeaveNothing) {
     compress("C:\\Packed");
     EXPECT_EQ(world.names("Maps").size(), 1U);
     EXPECT_FALSE(world.exists("Packed.uz"));
+}
+
+// Frees one who waits at the pipe's other end, and tells whether there was one.
+bool somebodyWaitsAt(const HostPath& pipe) {
+    for (const int mode : {O_WRONLY, O_RDONLY}) {
+        const int end = ::open(pipe.c_str(), mode | O_NONBLOCK);
+        char byte = 0;
+        // A reader can always be; whether there is a writer shows as the lack of an end.
+        const bool waited = end != -1 && (mode == O_WRONLY || ::read(end, &byte, 1) != 0);
+        if (end != -1) ::close(end);
+        if (waited) return true;
+    }
+    return false;
+}
+
+TEST_F(UccTest, APipeInPlaceOfAFileIsNotWaitedFor) {
+    world.write("Packed/q.uz", ucc::compressed({"q.u", content}));
+    const HostPath pipes[] = {world.at("Packed/p.uz"), world.at("Maps/p.u"),
+                              world.at("System/q.u")};
+    for (const HostPath& pipe : pipes) ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    bool waited = false;
+    whileRunning = [&] {
+        for (const HostPath& pipe : pipes) waited = somebodyWaitsAt(pipe) || waited;
+    };
+    decompress("C:\\Packed\\p.uz");
+    compress("C:\\Maps\\p.u");
+    decompress("C:\\Packed\\q.uz");
+    EXPECT_FALSE(waited);
+    for (const HostPath& pipe : pipes) EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
 TEST_F(UccTest, ConsoleTellsWhatIsDone) {

@@ -14,11 +14,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string read(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream || !fs::is_regular_file(file)) {
-        throw std::runtime_error("cannot read " + file.string());
+// Opening a pipe waits for somebody at its other end.
+void requireNoPipe(const fs::path& file) {
+    if (fs::exists(file) && !fs::is_regular_file(file)) {
+        throw std::runtime_error("no file: " + file.string());
     }
+}
+
+std::string read(const fs::path& file) {
+    requireNoPipe(file);
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw std::runtime_error("cannot read " + file.string());
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
@@ -72,6 +78,7 @@ void Commandlets::begin(const char* commandlet) const {
 
 void Commandlets::write(const fs::path& file, const std::string& bytes) const {
     if (manner_ == Manner::Silent) return;
+    requireNoPipe(file);
     std::ofstream stream(file, std::ios::binary | std::ios::trunc);
     if (!stream) throw std::runtime_error("cannot write " + file.string());
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/files/standins.h"
-#include "platform/files/wholefile.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/utf8.h"
 #include "platform/text/wildcard.h"
@@ -17,16 +16,17 @@ constexpr std::string_view everything = "*.*";
 
 // Where the last part of a path begins.
 std::size_t lastPart(std::string_view path) {
-    std::size_t start = path.size();
-    while (start > 0 && path[start - 1] != '\\' && path[start - 1] != '/' &&
-           path[start - 1] != ':') {
-        --start;
-    }
-    return start;
+    const std::size_t separator = path.find_last_of("\\/");
+    if (separator != std::string_view::npos) return separator + 1;
+    const bool drive = path.size() > 1 && path[1] == ':';
+    return drive ? 2 : 0;
 }
 
-bool isWanted(const std::optional<HostStatus>& status, int wanted) {
-    if (!status) return false;  // a link that leads nowhere, or a name gone since
+// A name that leads nowhere, or to where one may not look, is passed over.
+bool isWanted(Host& host, const HostPath& path, int wanted) {
+    std::optional<HostStatus> status;
+    attempt([&] { status = host.status(path); });
+    if (!status) return false;
     const int has = (status->folder ? attributes::Directory : 0) |
                     (status->hidden ? attributes::Hidden : 0) |
                     (status->system ? attributes::System : 0);
@@ -82,7 +82,7 @@ std::vector<std::string> Files::list(std::string_view pattern, int attributes) {
         return listFolder(pattern.substr(0, name), pattern.substr(name), attributes);
     }
     const auto path = paths_.find(pattern);
-    if (!path || !isWanted(host_.status(*path), attributes)) return {};
+    if (!path || !isWanted(host_, *path, attributes)) return {};
     // A root has no name of its own to list.
     if (paths_.absolute(pattern).ends_with('\\')) {
         return listFolder(pattern, everything, attributes);
@@ -98,7 +98,7 @@ std::vector<std::string> Files::listFolder(std::string_view folder, std::string_
     for (std::string& each : host_.list(*path)) {
         std::string name = gameName(each);
         if (!matchesWildcard(pattern, name)) continue;
-        if (isWanted(host_.status(*path / each), attributes)) names.push_back(std::move(name));
+        if (isWanted(host_, *path / each, attributes)) names.push_back(std::move(name));
     }
     sortNames(names);
     const bool root = paths_.absolute(folder).ends_with('\\');
@@ -173,6 +173,12 @@ std::string Files::read(std::string_view file) {
 void Files::replace(std::string_view file, std::string_view bytes) {
     const HostPath path = paths_.toHost(file);
     replaceFile(host_, path, bytes);
+    paths_.forget(path.parent_path());
+}
+
+void Files::change(std::string_view file, const FileChange& change) {
+    const HostPath path = paths_.toHost(file);
+    changeFile(host_, path, change);
     paths_.forget(path.parent_path());
 }
 

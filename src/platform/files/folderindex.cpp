@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "platform/files/standins.h"
-#include "platform/runtime/runtimeerror.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
@@ -75,7 +74,6 @@ const std::string* FolderIndex::Table::find(std::string_view name) const {
 FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view name) {
     Names* names = namesNow(folder);
     if (!names) return {};
-    if (!names->listed) return {true, exact(folder, name)};
     const std::string* spelled = names->table.find(name);
     // Within a tick of the folder's last change a miss proves nothing, so the folder is read again.
     // That ends with the tick: at worst a run of misses reads the folder over and over for so long.
@@ -83,7 +81,10 @@ FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view 
         read(folder, names->stamp, *names);
         spelled = names->table.find(name);
     }
-    return {true, spelled ? std::optional<std::string>(*spelled) : std::nullopt};
+    if (spelled) return {true, *spelled};
+    if (!names->refusal) return {true, std::nullopt};
+    if (!host_.status(folder / hostName(name))) throw RunTimeError(*names->refusal);
+    return {true, std::string(name)};
 }
 
 // The index of a folder as it is now; null if there is no such folder.
@@ -114,9 +115,14 @@ void FolderIndex::read(const HostPath& folder, FolderStamp stamp, Names& names) 
     names.stamp = stamp;
     // The second term serves network folders whose clock runs ahead of ours.
     const std::int64_t age = std::max(now - stamp.changedNanoseconds, now - names.stampSeenAt);
-    names.settled = age >= tickOf(stamp);
     std::vector<std::string> listing;
-    names.listed = attempt([&] { listing = host_.list(folder); });
+    names.refusal.reset();
+    try {
+        listing = host_.list(folder);
+    } catch (const RunTimeError& error) {
+        names.refusal = error;  // which may pass
+    }
+    names.settled = age >= tickOf(stamp) && !names.refusal;
     for (std::string& each : listing) {
         if (needsStandIn(each)) each = gameName(each);
     }
@@ -124,11 +130,6 @@ void FolderIndex::read(const HostPath& folder, FolderStamp stamp, Names& names) 
     names.table.fill(std::move(listing));
     names.held.reset();
     if (big) attempt([&] { names.held = host_.hold(folder); });
-}
-
-std::optional<std::string> FolderIndex::exact(const HostPath& folder, std::string_view name) {
-    if (!host_.status(folder / hostName(name))) return std::nullopt;
-    return std::string(name);
 }
 
 }  // namespace tessaro

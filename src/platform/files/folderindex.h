@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/files/host.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 
@@ -28,7 +29,9 @@ class FolderIndex {
     /// in case only (the first in byte order, if several do). A name found may have been deleted a
     /// moment ago; who opens it finds out. A name not found is not there.
     ///
-    /// A folder that may be searched but not listed knows exact names only.
+    /// A folder that may be searched but not listed (no right to, too many open files) knows exact
+    /// names only. For all others it raises what listing it raised: a name that it may hold in
+    /// another case must not be taken for a free one.
     Finding find(const HostPath& folder, std::string_view name);
     void forget(const HostPath& folder) { folders_.erase(folder.native()); }
 
@@ -49,9 +52,9 @@ class FolderIndex {
     };
     struct Names {
         FolderStamp stamp;
-        std::int64_t stampSeenAt = 0;  // when a listing first met this stamp; nanoseconds
-        bool settled = false;          // a change from here on would show in the stamp
-        bool listed = false;
+        std::int64_t stampSeenAt = 0;         // when a listing first met this stamp; nanoseconds
+        bool settled = false;                 // a change from here on would show in the stamp
+        std::optional<RunTimeError> refusal;  // what listing it raised
         Table table;
         std::unique_ptr<HeldFolder> held;               // of a big folder
         std::chrono::steady_clock::time_point foundAt;  // by its path
@@ -59,7 +62,6 @@ class FolderIndex {
     Names* namesNow(const HostPath& folder);
     static bool unchanged(const Names& names);
     void read(const HostPath& folder, FolderStamp stamp, Names& names);
-    std::optional<std::string> exact(const HostPath& folder, std::string_view name);
 
     Host& host_;
     std::unordered_map<HostPath::string_type, Names> folders_;

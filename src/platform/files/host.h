@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -48,19 +49,30 @@ class HeldFolder {
     virtual std::optional<FolderStamp> stamp() = 0;
 };
 
+/// The exclusive right to change files in a folder, among programs of ours; given up at its end.
+class FolderLock {
+  public:
+    virtual ~FolderLock() = default;
+};
+
 /// What the program asks of the operating system's files. Links are followed. Every member raises
-/// RunTimeError with the number that fits the host's error; the failing twin of the tests raises
-/// where it is told to.
+/// RunTimeError with the number that fits the host's error, 52 for a name that no file can bear
+/// (one with a NUL in it); the failing twin of the tests raises where it is told to.
 class Host {
   public:
     virtual ~Host() = default;
 
-    /// Nothing if there is no such name. Raises 70 if the folder may not be searched.
+    /// Nothing if there is no such name, or can be none. Raises 70 if the folder may not be
+    /// searched.
     virtual std::optional<HostStatus> status(const HostPath& path) = 0;
     /// Names in a folder, in the host's order, without "." and "..".
     virtual std::vector<std::string> list(const HostPath& folder) = 0;
     /// Nothing on a host where holding a folder would stand in somebody's way.
     virtual std::unique_ptr<HeldFolder> hold(const HostPath& /*folder*/) { return nullptr; }
+    /// Waits its turn. Nothing if it does not come within `patience`, or where there are no locks.
+    /// Not to be asked for twice by one program: it would wait for itself.
+    virtual std::unique_ptr<FolderLock> lock(const HostPath& folder,
+                                             std::chrono::milliseconds patience) = 0;
     /// Whether this is a file (no folder, no device) that its flags and the system let us write.
     virtual bool writable(const HostPath& path) = 0;
     virtual std::string read(const HostPath& file) = 0;

@@ -52,7 +52,7 @@ struct Split {
 void append(std::string& full, std::string_view part) {
     if (part.empty() || part == ".") return;
     if (part != "..") {
-        full.append("\\").append(part);
+        full.append("\\").append(writtenName(part));
     } else if (full.size() > letterSize) {
         full.resize(full.rfind('\\'));
     }
@@ -153,6 +153,12 @@ std::string Paths::absolute(std::string_view path) const {
     full.reserve(full.size() + path.size() + 1);
     appendAll(full, path);
     return full.size() == letterSize ? rootText(drive) : full;
+}
+
+bool Paths::isInside(std::string_view path, std::string_view folder) const {
+    std::string above = absolute(folder);
+    if (!above.ends_with('\\')) above += '\\';
+    return absolute(path).starts_with(above);
 }
 
 std::string Paths::currentFolder() const {

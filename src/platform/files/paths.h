@@ -16,7 +16,9 @@ namespace tessaro {
 /// Turns paths in the game's form (`C:\UnrealTournament\System\user.ini`) into host paths and
 /// back, and keeps the current drive and the current folder of each drive, as DOS does.
 ///
-/// Names match without regard to case: the exact name first, then a fold. `/` is taken for `\`.
+/// Names match without regard to case: the exact name first, then a fold. `/` is taken for `\`. A
+/// letter that can mean nothing where it stands, such as a colon behind the drive's, means the name
+/// on the host that holds it (see standins.h).
 class Paths {
   public:
     /// Starts in the host's current folder.
@@ -30,11 +32,15 @@ class Paths {
     std::optional<HostPath> find(std::string_view path) { return findFull(absolute(path)); }
     /// The game path of a host path; the longest drive root wins. Links are followed only where
     /// that brings a path outside the other drives onto one. For a backslash in a name see
-    /// hostname.h. Raises 68 if no drive holds it.
+    /// standins.h. Raises 68 if no drive holds it.
     std::string toGame(const HostPath& path) const;
 
     /// A full game path, with drive, made from a relative one; "." and ".." are resolved.
     std::string absolute(std::string_view path) const;
+
+    /// Whether a path leads to something below a folder once its dots are resolved. Goes by the
+    /// spelling; what links on the disk do is theirs.
+    bool isInside(std::string_view path, std::string_view folder) const;
 
     /// The current folder of the current drive, such as `C:\UnrealTournament` or `C:\`.
     std::string currentFolder() const;

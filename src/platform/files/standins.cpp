@@ -4,8 +4,15 @@ namespace tessaro {
 
 namespace {
 
-constexpr std::string_view lettersWithMeaning = "\\*?\"";
+constexpr std::string_view lettersWithMeaning = "\\:*?\"";
+constexpr char leadIn = '~';
+
+constexpr std::size_t standInSize = 3;
 constexpr char startOfStandIns = '\xEF';
+
+bool hasMeaning(char letter) {
+    return lettersWithMeaning.find(letter) != std::string_view::npos;
+}
 
 /// U+F000 and the letter's own code, in UTF-8.
 std::string standIn(char letter) {
@@ -14,30 +21,64 @@ std::string standIn(char letter) {
             static_cast<char>(0x80 | (code & 0x3F))};
 }
 
-void replace(std::string& text, std::string_view what, std::string_view with) {
-    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at)) {
-        text.replace(at, what.size(), with);
-        at += with.size();
-    }
+// The letter whose stand-in a text begins with, 0 if it begins otherwise.
+char letterAt(std::string_view text) {
+    if (text.size() < standInSize || text.front() != startOfStandIns) return 0;
+    const auto code = (static_cast<unsigned char>(text[1]) & 0x03U) << 6U |
+                      (static_cast<unsigned char>(text[2]) & 0x3FU);
+    const auto letter = static_cast<char>(code);
+    const bool ours = (hasMeaning(letter) || letter == leadIn) && text.starts_with(standIn(letter));
+    return ours ? letter : '\0';
+}
+
+void move(std::string_view& from, std::size_t size, std::string& to) {
+    to.append(from.substr(0, size));
+    from.remove_prefix(size);
 }
 
 }  // namespace
 
 bool needsStandIn(std::string_view hostName) {
-    return hostName.find_first_of(lettersWithMeaning) != std::string_view::npos;
+    return hostName.find_first_of(lettersWithMeaning) != std::string_view::npos ||
+           hostName.find(startOfStandIns) != std::string_view::npos;
 }
 
 std::string gameName(std::string_view hostName) {
-    std::string name(hostName);
-    if (!needsStandIn(name)) return name;
-    for (const char letter : lettersWithMeaning) replace(name, {&letter, 1}, standIn(letter));
+    std::string name;
+    while (!hostName.empty()) {
+        if (letterAt(hostName) != 0) {
+            name += standIn(leadIn);
+            move(hostName, standInSize, name);
+        } else if (hasMeaning(hostName.front())) {
+            name += standIn(hostName.front());
+            hostName.remove_prefix(1);
+        } else {
+            move(hostName, 1, name);
+        }
+    }
     return name;
 }
 
 std::string hostName(std::string_view gameName) {
-    std::string name(gameName);
-    if (name.find(startOfStandIns) == std::string::npos) return name;
-    for (const char letter : lettersWithMeaning) replace(name, standIn(letter), {&letter, 1});
+    std::string name;
+    while (!gameName.empty()) {
+        const char letter = letterAt(gameName);
+        if (letter == leadIn && letterAt(gameName.substr(standInSize)) != 0) {
+            gameName.remove_prefix(standInSize);
+            move(gameName, standInSize, name);
+        } else if (hasMeaning(letter)) {
+            name += letter;
+            gameName.remove_prefix(standInSize);
+        } else {
+            move(gameName, 1, name);
+        }
+    }
+    return name;
+}
+
+std::string writtenName(std::string_view part) {
+    std::string name;
+    for (const char letter : part) hasMeaning(letter) ? name += standIn(letter) : name += letter;
     return name;
 }
 

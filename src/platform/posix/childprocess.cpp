@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <memory>
 #include <thread>
@@ -83,6 +84,11 @@ class FreshSignals {
     posix_spawnattr_t attributes_ = {};
 };
 
+// The system would hand on such a text only up to there, and the child would work on another file.
+bool holdsNul(const std::string& text) {
+    return text.find('\0') != std::string::npos;
+}
+
 std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
     pointers.reserve(texts.size() + 1);
@@ -104,6 +110,7 @@ int openHandle([[maybe_unused]] pid_t pid) {
 
 std::optional<ChildProcess> ChildProcess::start(const std::vector<std::string>& arguments,
                                                 Visibility visibility) {
+    if (std::ranges::any_of(arguments, holdsNul)) return std::nullopt;
     std::vector<std::string> texts = arguments;
     const FileActions files(visibility);
     const FreshSignals signals;

@@ -12,8 +12,15 @@ void raiseErrno(const HostPath& path) {
     raiseHostError({error, std::generic_category()}, path.native());
 }
 
+const char* systemName(const HostPath& path) {
+    if (path.native().find('\0') != std::string::npos) {
+        throw RunTimeError(errors::BadFileNumber, path.native());
+    }
+    return path.c_str();
+}
+
 Descriptor::Descriptor(const HostPath& path, int flags, mode_t mode) : path_(path) {
-    fd_ = uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC, mode); });
+    fd_ = uninterrupted([&] { return ::open(systemName(path), flags | O_CLOEXEC, mode); });
     if (fd_ == -1) raiseErrno(path);
 }
 

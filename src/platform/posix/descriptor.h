@@ -13,6 +13,10 @@ namespace tessaro {
 /// Raises what `errno` says.
 [[noreturn]] void raiseErrno(const HostPath& path);
 
+/// A path as the system's calls take it. Raises 52 for one with a NUL in it: they would read it
+/// only up to there, and mean another file.
+const char* systemName(const HostPath& path);
+
 /// Repeats a call that a signal interrupted.
 template <class Call>
 auto uninterrupted(Call&& call) {

@@ -1,7 +1,10 @@
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <thread>
 
 #include "platform/files/host.h"
 #include "platform/posix/descriptor.h"
@@ -17,6 +20,7 @@ constexpr mode_t permissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
 constexpr mode_t newFile = anyWriteBit | S_IRUSR | S_IRGRP | S_IROTH;
 constexpr mode_t onlyOurs = S_IRUSR | S_IWUSR;
 constexpr int mostLinks = 40;
+constexpr std::chrono::microseconds betweenLooks{100};
 
 void raiseIfFailed(int result, const HostPath& path) {
     if (result == -1) raiseErrno(path);
@@ -68,7 +72,7 @@ void dress(const Descriptor& file, const struct stat& like) {
 
 Descriptor createLike(const HostPath& file, const HostPath& like) {
     struct stat info = {};
-    const bool known = ::stat(like.c_str(), &info) == 0;
+    const bool known = ::stat(systemName(like), &info) == 0;
     // Nobody may look into a private file while its successor is being written.
     Descriptor created(file, O_WRONLY | O_CREAT | O_EXCL, known ? onlyOurs : newFile);
     if (known) dress(created, info);
@@ -111,19 +115,37 @@ class PosixHeldFolder : public HeldFolder {
     Descriptor folder_;
 };
 
+// Asks again and again, since a wait in the kernel has no limit. The pauses are short, so that
+// others who lock in a row do not keep us out for long.
+bool locked(int folder, std::chrono::milliseconds patience) {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (::flock(folder, LOCK_EX | LOCK_NB) == -1) {
+        if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= end) return false;
+        std::this_thread::sleep_for(betweenLooks);
+    }
+    return true;
+}
+
+class PosixFolderLock : public FolderLock {
+  public:
+    explicit PosixFolderLock(Descriptor folder) : folder_(std::move(folder)) {}
+
+  private:
+    Descriptor folder_;  // the lock goes when this is closed, also by a kill
+};
+
 class PosixHost : public Host {
   public:
     std::optional<HostStatus> status(const HostPath& path) override {
         struct stat info = {};
-        // The system would read a name with a NUL in it only up to there.
-        if (path.native().find('\0') != std::string::npos) return std::nullopt;
+        if (path.native().find('\0') != std::string::npos) return std::nullopt;  // no such name
         if (::stat(path.c_str(), &info) == 0) return statusFrom(info, path);
         if (!namesNothing(errno)) raiseErrno(path);
         return std::nullopt;
     }
 
     std::vector<std::string> list(const HostPath& folder) override {
-        const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), ::closedir);
+        const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(systemName(folder)), ::closedir);
         if (!open) raiseErrno(folder);
         std::vector<std::string> names;
         errno = 0;
@@ -140,10 +162,22 @@ class PosixHost : public Host {
         return std::make_unique<PosixHeldFolder>(Descriptor(folder, O_RDONLY | O_DIRECTORY));
     }
 
+    std::unique_ptr<FolderLock> lock(const HostPath& folder,
+                                     std::chrono::milliseconds patience) override {
+        std::unique_ptr<FolderLock> lock;
+        attempt([&] {
+            Descriptor opened(folder, O_RDONLY | O_DIRECTORY);
+            if (locked(opened.get(), patience)) {
+                lock = std::make_unique<PosixFolderLock>(std::move(opened));
+            }
+        });
+        return lock;
+    }
+
     bool writable(const HostPath& path) override {
         struct stat info = {};
         // The bits count by themselves: the system lets root write whatever they say.
-        return ::stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode) &&
+        return ::stat(systemName(path), &info) == 0 && S_ISREG(info.st_mode) &&
                (info.st_mode & anyWriteBit) != 0 &&
                ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
     }
@@ -179,7 +213,7 @@ class PosixHost : public Host {
     }
 
     void rename(const HostPath& from, const HostPath& to) override {
-        raiseIfFailed(::rename(from.c_str(), to.c_str()), to);
+        raiseIfFailed(::rename(systemName(from), systemName(to)), to);
     }
 
     void flushFolder(const HostPath& folder) override {
@@ -188,13 +222,16 @@ class PosixHost : public Host {
         static_cast<void>(uninterrupted([&] { return ::fsync(opened.get()); }));
     }
 
-    void removeFile(const HostPath& file) override { raiseIfFailed(::unlink(file.c_str()), file); }
+    void removeFile(const HostPath& file) override {
+        raiseIfFailed(::unlink(systemName(file)), file);
+    }
 
     void makeFolder(const HostPath& folder) override {
-        raiseIfFailed(::mkdir(folder.c_str(), S_IRWXU | S_IRWXG | S_IRWXO), folder);
+        raiseIfFailed(::mkdir(systemName(folder), S_IRWXU | S_IRWXG | S_IRWXO), folder);
     }
 
     HostPath target(const HostPath& path) override {
+        systemName(path);
         HostPath current = path;
         std::error_code ignored;
         for (int step = 0; step < mostLinks; ++step) {
@@ -214,7 +251,7 @@ class PosixHost : public Host {
     }
 
     void changeFolder(const HostPath& folder) override {
-        raiseIfFailed(::chdir(folder.c_str()), folder);
+        raiseIfFailed(::chdir(systemName(folder)), folder);
     }
 };
 

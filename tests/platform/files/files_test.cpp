@@ -1,6 +1,7 @@
 #include "platform/files/files.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -104,6 +105,31 @@ TEST(Files, ALinkThatLeadsNowhereIsNotListed) {
     fs::create_symlink("gone", world.at("C:\\link"));
     EXPECT_EQ(world.files.firstMatch("C:\\link", all), "");
     EXPECT_THAT(world.files.list("C:\\*.*", all), IsEmpty());
+}
+
+TEST(Files, ANameThatCannotBeAskedForIsPassedOver) {
+    TestWorld world;
+    for (const char* name : {"a", "m", "z"}) world.write(std::string("C:\\s\\") + name, "");
+    world.makeFolder("C:\\s\\folder");
+    world.host.refuse(Call::Status, errors::PermissionDenied, "/m");
+    EXPECT_THAT(world.files.list("C:\\s\\*.*", all), ElementsAre("a", "z"));
+    EXPECT_THAT(world.files.list("C:\\s\\*", attributes::Directory),
+                ElementsAre(".", "..", "a", "folder", "z"));
+    EXPECT_EQ(world.files.firstMatch("C:\\s\\m", all), "");
+    world.files.deleteFiles("C:\\s\\*.*");
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("folder", "m"));
+}
+
+TEST(Files, ALinkIntoALockedFolderDoesNotHideItsNeighbours) {
+    if (::geteuid() == 0) GTEST_SKIP() << "root may look anywhere";
+    TestWorld world;
+    world.write("C:\\locked\\x", "");
+    world.write("C:\\s\\a", "");
+    world.write("C:\\s\\z", "");
+    fs::create_symlink("../locked/x", world.at("C:\\s\\link"));
+    fs::permissions(world.at("C:\\locked"), fs::perms::none);
+    EXPECT_THAT(world.files.list("C:\\s\\*.*", all), ElementsAre("a", "z"));
+    fs::permissions(world.at("C:\\locked"), fs::perms::owner_all);
 }
 
 TEST(Files, NamesThatNoFileCanBearAreNotThere) {
@@ -221,6 +247,19 @@ TEST(Files, DeletesWhatMatchesButNoFolders) {
     world.makeFolder("C:\\s\\cache3.tmp");
     world.files.deleteFiles("C:\\s\\cache*.tmp");
     EXPECT_THAT(world.names("C:\\s"), ElementsAre("cache.ini", "cache3.tmp"));
+}
+
+TEST(Files, ANameWithAColonIsAFileLikeOthers) {
+    TestWorld world;
+    world.write("C:\\s\\x:y.unr", "text");
+    const auto names = world.files.list("C:\\s\\*.unr", attributes::Normal);
+    ASSERT_THAT(names, ElementsAre("x\uF03Ay.unr"));
+    const std::string file = "C:\\s\\" + names.front();
+    EXPECT_EQ(world.files.fileLength(file), 4U);
+    world.files.copyFile(file, file + ".uz");
+    EXPECT_EQ(world.files.firstMatch(file + ".uz", attributes::Normal), "x\uF03Ay.unr.uz");
+    world.files.deleteFiles(file);
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("x:y.unr.uz"));
 }
 
 TEST(Files, DeletesOneFileByItsName) {

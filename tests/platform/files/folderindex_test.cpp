@@ -10,6 +10,7 @@ namespace tessaro {
 namespace {
 
 using test::Call;
+using test::errorOf;
 using test::FailingHost;
 using test::TestWorld;
 
@@ -123,7 +124,19 @@ TEST(FolderIndex, AFolderThatCannotBeListedKnowsExactNames) {
     world.host.refuse(Call::List, errors::PermissionDenied, "home");
     FolderIndex index(world.host);
     EXPECT_EQ(index.find(world.at("C:\\home"), "me").name, "me");
-    EXPECT_FALSE(index.find(world.at("C:\\home"), "Me").name);
+    EXPECT_EQ(errorOf([&] { index.find(world.at("C:\\home"), "Me"); }), errors::PermissionDenied);
+}
+
+TEST(FolderIndex, AFolderThatCouldNotBeListedForAMomentKnowsAllNamesAfterwards) {
+    TestWorld world;
+    world.write("C:\\home\\me", "");
+    StampedHost host(world.host);
+    host.refuse(Call::List, errors::TooManyFiles, "home");
+    FolderIndex index(host);
+    EXPECT_EQ(errorOf([&] { index.find(world.at("C:\\home"), "ME"); }), errors::TooManyFiles);
+    host.relent();
+    EXPECT_EQ(index.find(world.at("C:\\home"), "ME").name, "me");
+    EXPECT_FALSE(index.find(world.at("C:\\home"), "you").name);
 }
 
 TEST(FolderIndex, OfSeveralFoldsTheFirstInByteOrderIsTaken) {

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <set>
 
 #include "support/testworld.h"
 
@@ -179,6 +181,58 @@ TEST(Paths, PatternLettersAndQuotesInAHostNameSurviveTheWayThereAndBack) {
     EXPECT_EQ(world.files.list(game, attributes::Normal).size(), 1U);
     world.files.deleteFiles(game);
     EXPECT_EQ(std::distance(fs::directory_iterator(odd.parent_path()), {}), 1);
+}
+
+TEST(Paths, EveryHostNameSurvivesTheWayThereAndBack) {
+    TestWorld world;
+    const std::vector<std::string> names{"x:y.unr",    "C:",
+                                         ":",          "a\\b",
+                                         "a\uF05Cb",   "a\uF03Ab",
+                                         "\uF07E",     "\uF07E\uF03A",
+                                         "\uF07E:",    "\uF07E\uF07E\uF05C\\",
+                                         "\uF03A*?\"", "\uF041",
+                                         "\uFF3A",     "\uFF1A\uFF3C",
+                                         "a\xEF\x80",  "\xEF",
+                                         "~:"};
+    std::set<std::string> seen;
+    for (const std::string& name : names) {
+        SCOPED_TRACE(name);
+        const HostPath odd = world.driveC() / name / (name + ".ini");
+        TestWorld::writeHost(odd, name);
+        const std::string game = world.paths.toGame(odd);
+        EXPECT_EQ(std::count(game.begin(), game.end(), '\\'), 2);
+        EXPECT_EQ(game.find_first_of("*?\":", 2), std::string::npos);
+        EXPECT_EQ(world.paths.toHost(game), odd);
+        EXPECT_EQ(world.files.read(game), name);
+        const auto listed = world.files.list(world.paths.toGame(odd.parent_path()) + "\\*.*", 0);
+        ASSERT_EQ(listed.size(), 1U);
+        EXPECT_EQ(game.substr(game.rfind('\\') + 1), listed.front());
+        seen.insert(game);
+    }
+    EXPECT_EQ(seen.size(), names.size());
+}
+
+TEST(Paths, ALetterThatMeansNothingWhereItStandsMeansTheNameThatHasIt) {
+    TestWorld world;
+    world.write("C:\\s\\x:Y.unr", "");
+    EXPECT_EQ(world.paths.find("C:\\s\\X:y.unr"), world.at("C:\\s\\x:Y.unr"));
+    EXPECT_EQ(world.paths.toHost("C:\\s\\new:*?\".unr"), world.at("C:\\s\\new:*?\".unr"));
+    EXPECT_EQ(world.paths.toHost("C:\\\uF07Ea"), world.at("C:\\\uF07Ea"));
+    EXPECT_EQ(world.paths.absolute("C:\\a:b\\c"), "C:\\a\uF03Ab\\c");
+}
+
+TEST(Paths, WhatLiesInsideAFolderIsToldByTheSpelling) {
+    TestWorld world;
+    world.makeFolder("C:\\game");
+    world.paths.changeFolder("C:\\game");
+    EXPECT_TRUE(world.paths.isInside("C:\\UT\\maps\\a.u", "C:\\UT\\"));
+    EXPECT_TRUE(world.paths.isInside("C:\\UT\\..\\UT\\a.u", "C:\\UT"));
+    EXPECT_TRUE(world.paths.isInside("a\\b", "C:\\game"));
+    EXPECT_TRUE(world.paths.isInside("C:\\..\\..\\a", "C:\\"));
+    EXPECT_FALSE(world.paths.isInside("C:\\UT\\..\\a.u", "C:\\UT\\"));
+    EXPECT_FALSE(world.paths.isInside("C:\\UTother\\a.u", "C:\\UT"));
+    EXPECT_FALSE(world.paths.isInside("C:\\UT\\maps\\..", "C:\\UT"));
+    EXPECT_FALSE(world.paths.isInside("Z:\\UT\\a.u", "C:\\UT"));
 }
 
 TEST(Paths, TheStartIsTheProcessFolder) {

@@ -6,12 +6,14 @@
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <random>
 
 #include "platform/files/wholefile.h"
 #include "platform/outside/systemversion.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/posixcopy.h"
+#include "support/forkedchild.h"
 #include "support/testworld.h"
 
 namespace tessaro {
@@ -154,6 +156,41 @@ TEST(PosixHost, ReadingRefusesWhatHasNoEnd) {
     EXPECT_EQ(errorOf([&] { real.host->read(real.folder.path()); }), errors::PathFileAccess);
 }
 
+TEST(PosixHost, NoCallTakesANameWithANulForTheOneBeforeIt) {
+    const Real real;
+    Host& host = *real.host;
+    const HostPath file = real.write("file", "old");
+    const HostPath nul = file.native() + std::string("\0.u", 3);
+    const HostPath folder = real.folder.path().native() + std::string("\0x", 2);
+    fs::create_directory(real.folder.path() / "empty");
+    const HostPath inside = (real.folder.path() / "fresh").native() + std::string("\0x", 2);
+    const std::function<void()> calls[] = {
+        [&] { host.list(folder); },
+        [&] { host.hold(folder); },
+        [&] { host.writable(nul); },
+        [&] { host.read(nul); },
+        [&] { host.create(inside, {}); },
+        [&] { host.create(real.folder.path() / "new", nul); },
+        [&] { host.touch(inside); },
+        [&] { host.copy(nul, real.folder.path() / "new", {}); },
+        [&] { host.copy(file, inside, {}); },
+        [&] { host.rename(nul, real.folder.path() / "new"); },
+        [&] { host.rename(file, inside); },
+        [&] { host.flushFolder(folder); },
+        [&] { host.removeFile(nul); },
+        [&] { host.makeFolder(inside); },
+        [&] { host.target(nul); },
+        [&] { host.changeFolder(folder); },
+    };
+    for (const auto& call : calls) {
+        EXPECT_EQ(errorOf(call), errors::BadFileNumber) << &call - calls;
+    }
+    EXPECT_FALSE(host.status(nul));
+    EXPECT_FALSE(host.lock(folder, std::chrono::milliseconds(0)));
+    EXPECT_THAT(host.list(real.folder.path()), UnorderedElementsAre("file", "empty"));
+    EXPECT_EQ(TestWorld::readHost(file), "old");
+}
+
 TEST(PosixHost, TellsItsOwnFileAndSystem) {
     EXPECT_TRUE(fs::equivalent(executablePath(), "/proc/self/exe"));
     const auto version = systemVersion();
@@ -195,14 +232,8 @@ void killAfter(const HostPath& file, int turns, int calls) {
     ::close(ends[0]);
 }
 
-// Where flushing costs nothing, if there is such a place: hundreds of files are written.
-HostPath inMemory() {
-    const HostPath shared = "/dev/shm";
-    return ::access(shared.c_str(), W_OK | X_OK) == 0 ? shared : fs::temp_directory_path();
-}
-
 TEST(PosixHost, AKilledWriterLeavesTheOneTextOrTheOther) {
-    const Real real(inMemory());
+    const Real real(test::inMemory());
     const HostPath file = real.write("user.ini", oneText);
     std::minstd_rand chance(20);
     std::uniform_int_distribution<int> turns(1, 3);

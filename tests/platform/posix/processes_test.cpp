@@ -62,6 +62,13 @@ TEST_F(ProcessesTest, NamesOfFilesArriveAsTheyStand) {
     }
 }
 
+TEST_F(ProcessesTest, ANulInALineStartsNothing) {
+    writeScript("tool", NoteArguments);
+    run(std::string("C:\\tool C:\\Maps\\x.u\0y.u", 22));
+    run(std::string("C:\\tool\0y x", 12));
+    EXPECT_FALSE(world.exists("tool.args"));
+}
+
 TEST_F(ProcessesTest, FullPathsBecomeHostPathsWithoutRegardToCase) {
     writeScript("tool", NoteArguments);
     world.makeFolder("Maps");
