@@ -1,4 +1,4 @@
-#include "platform/profile/profile.h"
+#include "platform/profile/profilecalls.h"
 
 #include "platform/profile/profileedit.h"
 #include "platform/profile/profileread.h"
