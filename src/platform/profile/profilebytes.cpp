@@ -16,9 +16,7 @@ bool ProfileBytes::wide() const {
 }
 
 ProfileText ProfileBytes::text() const {
-    if (wide()) {
-        return {decoded_, Letters::Utf8};
-    }
+    if (wide()) return {decoded_, Letters::Utf8};
     return {bytes_, encoding_ == Encoding::CodePage ? Letters::CodePage : Letters::Utf8};
 }
 

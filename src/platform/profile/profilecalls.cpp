@@ -6,6 +6,7 @@
 #include "platform/text/utf8.h"
 
 namespace tessaro {
+
 namespace {
 
 std::string_view withoutTrailingSpaces(std::string_view text) {
@@ -20,9 +21,7 @@ std::optional<std::string_view> trimmed(std::optional<std::string_view> name) {
 // Room for a closing NUL, and for a listing a second one. A listing that would fill the buffer to
 // its last character already counts as cut.
 std::string cutListing(std::string listing, std::size_t size) {
-    if (length(listing) + 1 < size) {
-        return listing;
-    }
+    if (length(listing) + 1 < size) return listing;
     return std::string(left(listing, size < 2 ? 0 : size - 2));
 }
 
@@ -41,9 +40,7 @@ std::string readOrEmpty(Files& files, std::string_view file) {
     try {
         return files.read(file);
     } catch (const RunTimeError& error) {
-        if (error.number() != errors::FileNotFound) {
-            throw;
-        }
+        if (error.number() != errors::FileNotFound) throw;
         return {};
     }
 }
@@ -54,19 +51,13 @@ std::string ProfileCalls::getPrivateProfileString(std::optional<std::string_view
                                                   std::optional<std::string_view> key,
                                                   std::string_view defaultText, std::size_t size,
                                                   std::string_view file) {
-    if (size == 0) {
-        return {};
-    }
+    if (size == 0) return {};
     const auto defaultResult = [&] {
         return std::string(left(withoutTrailingSpaces(defaultText), size - 1));
     };
     std::string bytes;
-    if (!attempt([&] { bytes = files_.read(file); })) {
-        return defaultResult();
-    }
-    if (!section) {
-        return cutListing(profileSections(bytes), size);
-    }
+    if (!attempt([&] { bytes = files_.read(file); })) return defaultResult();
+    if (!section) return cutListing(profileSections(bytes), size);
     if (!key) {
         auto keys = profileKeys(bytes, trimSpaces(*section));
         return keys ? cutListing(*std::move(keys), size) : defaultResult();
@@ -79,15 +70,11 @@ bool ProfileCalls::writePrivateProfileString(std::string_view section,
                                              std::optional<std::string_view> key,
                                              std::optional<std::string_view> text,
                                              std::string_view file) {
-    if (isForged(section, key, text)) {
-        return false;
-    }
+    if (isForged(section, key, text)) return false;
     return attempt([&] {
         const std::string bytes = readOrEmpty(files_, file);
         const auto changed = changedProfile(bytes, {trimSpaces(section), trimmed(key), text});
-        if (changed) {
-            files_.replace(file, *changed);
-        }
+        if (changed) files_.replace(file, *changed);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "platform/text/utf8.h"
 
 namespace tessaro {
+
 namespace {
 
 // Bytes of a text to be replaced, and UTF-8 to stand there.
@@ -20,12 +21,8 @@ bool endsLine(std::string_view text) {
 // New lines end as the file's first line does.
 std::string_view lineEndOf(std::string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\n') {
-            return "\n";
-        }
-        if (text[i] == '\r') {
-            return text.substr(i).starts_with("\r\n") ? "\r\n" : "\r";
-        }
+        if (text[i] == '\n') return "\n";
+        if (text[i] == '\r') return text.substr(i).starts_with("\r\n") ? "\r\n" : "\r";
     }
     return "\r\n";
 }
@@ -33,9 +30,7 @@ std::string_view lineEndOf(std::string_view text) {
 // A line before `position` that has no end yet gets one first.
 Splice insertLines(std::string_view text, std::size_t position, std::string lines) {
     const std::string_view before = text.substr(0, position);
-    if (!before.empty() && !endsLine(before)) {
-        lines.insert(0, lineEndOf(text));
-    }
+    if (!before.empty() && !endsLine(before)) lines.insert(0, lineEndOf(text));
     return {position, 0, std::move(lines)};
 }
 
@@ -43,9 +38,7 @@ Splice insertLines(std::string_view text, std::size_t position, std::string line
 // round the value, or each repeated write would add them again.
 bool holds(const ProfileText& text, const ProfileKey& key, std::string_view wanted) {
     const std::string_view core = trimProfileBlanks(wanted);
-    if (core.empty()) {
-        return key.value.empty() && key.spaced.find(wanted) != std::string_view::npos;
-    }
+    if (core.empty()) return key.value.empty() && key.spaced.find(wanted) != std::string_view::npos;
     const auto coreBegin = static_cast<std::size_t>(core.data() - wanted.data());
     const auto valueBegin = static_cast<std::size_t>(key.value.data() - key.spaced.data());
     const std::string_view before = key.spaced.substr(0, valueBegin);
@@ -59,9 +52,7 @@ std::size_t endOfKeys(const ProfileText& text, const ProfileSection& section) {
     std::size_t end = section.body;
     ProfileLines lines = text.lines(section);
     while (const auto line = lines.next()) {
-        if (keyOf(*line)) {
-            end = text.position(line->whole) + line->whole.size();
-        }
+        if (keyOf(*line)) end = text.position(line->whole) + line->whole.size();
     }
     return end;
 }
@@ -70,9 +61,7 @@ Splice planNewKey(const ProfileText& text, const std::optional<ProfileSection>& 
                   const ProfileChange& change) {
     const std::string lineEnd(lineEndOf(text.text()));
     const std::string line = std::string(*change.key) + "=" + std::string(*change.text) + lineEnd;
-    if (section) {
-        return insertLines(text.text(), endOfKeys(text, *section), line);
-    }
+    if (section) return insertLines(text.text(), endOfKeys(text, *section), line);
     const std::string header = "[" + std::string(change.section) + "]" + lineEnd;
     return insertLines(text.text(), text.text().size(), header + line);
 }
@@ -84,20 +73,14 @@ std::optional<Splice> planKey(const ProfileText& text, const ProfileChange& chan
         return key ? std::optional(Splice{text.position(key->line), key->line.size(), {}})
                    : std::nullopt;
     }
-    if (!key) {
-        return planNewKey(text, section, change);
-    }
-    if (holds(text, *key, *change.text)) {
-        return std::nullopt;
-    }
+    if (!key) return planNewKey(text, section, change);
+    if (holds(text, *key, *change.text)) return std::nullopt;
     return Splice{text.position(key->value), key->value.size(), std::string(*change.text)};
 }
 
 std::optional<Splice> planSectionDeletion(const ProfileText& text, std::string_view name) {
     const auto section = text.findSection(name);
-    if (!section) {
-        return std::nullopt;
-    }
+    if (!section) return std::nullopt;
     const auto next = text.sectionFrom(section->body);
     const std::size_t end = next ? next->begin : text.text().size();
     return Splice{section->begin, end - section->begin, {}};
@@ -120,9 +103,7 @@ std::string spliced(std::string_view text, const Splice& splice, std::string_vie
 // other bytes have no say, so that a file of mixed encodings can be written at all.
 std::optional<std::string> splicedBytes(const ProfileBytes& file, const Splice& splice) {
     const auto insertion = encodePiece(splice.insertion, file.encoding());
-    if (!insertion) {
-        return std::nullopt;
-    }
+    if (!insertion) return std::nullopt;
     std::string bytes = std::string(file.mark()) + spliced(file.text().text(), splice, *insertion);
     const bool readsBack = isAsciiText(*insertion) || detectEncoding(bytes) == file.encoding();
     return readsBack ? std::optional(std::move(bytes)) : std::nullopt;
@@ -145,15 +126,9 @@ std::string widened(std::string_view bytes, Encoding encoding, const ProfileChan
 std::optional<std::string> changedProfile(std::string_view bytes, const ProfileChange& change) {
     const ProfileBytes file(bytes);
     const auto splice = plan(file.text(), change);
-    if (!splice) {
-        return std::nullopt;
-    }
-    if (file.wide()) {
-        return splicedWide(file, *splice);
-    }
-    if (auto result = splicedBytes(file, *splice)) {
-        return result;
-    }
+    if (!splice) return std::nullopt;
+    if (file.wide()) return splicedWide(file, *splice);
+    if (auto result = splicedBytes(file, *splice)) return result;
     return widened(bytes, file.encoding(), change);
 }
 

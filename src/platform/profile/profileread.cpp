@@ -3,6 +3,7 @@
 #include "platform/profile/profilebytes.h"
 
 namespace tessaro {
+
 namespace {
 
 std::string_view withoutQuotes(std::string_view value) {
@@ -23,9 +24,7 @@ std::optional<std::string> profileValue(std::string_view bytes, std::string_view
     const ProfileBytes file(bytes);
     const ProfileText text = file.text();
     const auto place = text.findSection(section);
-    if (!place) {
-        return std::nullopt;
-    }
+    if (!place) return std::nullopt;
     const auto found = text.findKey(*place, key);
     return found ? std::optional(text.decoded(withoutQuotes(found->value))) : std::nullopt;
 }
@@ -44,15 +43,11 @@ std::optional<std::string> profileKeys(std::string_view bytes, std::string_view 
     const ProfileBytes file(bytes);
     const ProfileText text = file.text();
     const auto place = text.findSection(section);
-    if (!place) {
-        return std::nullopt;
-    }
+    if (!place) return std::nullopt;
     std::string listing;
     ProfileLines lines = text.lines(*place);
     while (const auto line = lines.next()) {
-        if (const auto key = keyOf(*line)) {
-            addName(listing, text, key->name);
-        }
+        if (const auto key = keyOf(*line)) addName(listing, text, key->name);
     }
     return listing;
 }

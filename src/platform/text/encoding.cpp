@@ -4,6 +4,7 @@
 #include "platform/text/utf8.h"
 
 namespace tessaro {
+
 namespace {
 
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
@@ -73,9 +74,7 @@ std::optional<std::string> encodeCodePage(std::string_view text) {
     bytes.reserve(text.size());
     for (std::size_t position = 0; position < text.size();) {
         const auto code = toCodePage(nextKept(text, position));
-        if (!code) {
-            return std::nullopt;
-        }
+        if (!code) return std::nullopt;
         bytes += static_cast<char>(*code);
     }
     return bytes;
@@ -143,15 +142,9 @@ std::string encodeUtf16(std::string_view text, const Utf16& utf16) {
 }  // namespace
 
 Encoding detectEncoding(std::string_view bytes) {
-    if (bytes.starts_with(littleEndianMark)) {
-        return Encoding::Utf16LittleEndian;
-    }
-    if (bytes.starts_with(bigEndianMark)) {
-        return Encoding::Utf16BigEndian;
-    }
-    if (bytes.starts_with(utf8Mark)) {
-        return Encoding::Utf8Mark;
-    }
+    if (bytes.starts_with(littleEndianMark)) return Encoding::Utf16LittleEndian;
+    if (bytes.starts_with(bigEndianMark)) return Encoding::Utf16BigEndian;
+    if (bytes.starts_with(utf8Mark)) return Encoding::Utf8Mark;
     const bool letters = !isAsciiText(bytes);
     return letters && isValidUtf8(bytes) ? Encoding::Utf8 : Encoding::CodePage;
 }
@@ -172,9 +165,7 @@ std::string_view markOf(Encoding encoding) {
 }
 
 std::string decodeText(std::string_view bytes, Encoding encoding) {
-    if (bytes.starts_with(markOf(encoding))) {
-        bytes.remove_prefix(markOf(encoding).size());
-    }
+    if (bytes.starts_with(markOf(encoding))) bytes.remove_prefix(markOf(encoding).size());
     switch (encoding) {
         case Encoding::CodePage:
             return decodeCodePage(bytes);
@@ -206,18 +197,14 @@ std::optional<std::string> encodePiece(std::string_view text, Encoding encoding)
 
 std::optional<std::string> encodeText(std::string_view text, Encoding encoding) {
     const auto piece = encodePiece(text, encoding);
-    if (!piece) {
-        return std::nullopt;
-    }
+    if (!piece) return std::nullopt;
     std::string bytes = std::string(markOf(encoding)) + *piece;
     const bool readsBack = isAsciiText(bytes) || detectEncoding(bytes) == encoding;
     return readsBack ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 std::string encodeOrWiden(std::string_view text, Encoding encoding) {
-    if (auto bytes = encodeText(text, encoding)) {
-        return *std::move(bytes);
-    }
+    if (auto bytes = encodeText(text, encoding)) return *std::move(bytes);
     return *encodeText(text, Encoding::Utf16LittleEndian);
 }
 
