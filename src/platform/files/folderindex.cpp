@@ -6,6 +6,8 @@
 
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
+#include "platform/text/ascii.h"
+#include "platform/text/lettercase.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
@@ -32,10 +34,8 @@ std::int64_t nanosecondsNow() {
 }
 
 char32_t foldedCharacter(std::string_view name, std::size_t& position) {
-    const auto byte = static_cast<unsigned char>(name[position]);
-    if (byte >= 0x80) return lowerCase(nextCharacter(name, position));
-    ++position;
-    return byte >= 'A' && byte <= 'Z' ? byte + ('a' - 'A') : byte;
+    if (!isAscii(name[position])) return lowerCase(nextCharacter(name, position));
+    return static_cast<unsigned char>(lowerAscii(name[position++]));
 }
 
 std::uint32_t foldedHash(std::string_view name) {

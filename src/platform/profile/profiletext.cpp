@@ -1,19 +1,13 @@
 #include "platform/profile/profiletext.h"
 
+#include "platform/text/ascii.h"
 #include "platform/text/encoding.h"
+#include "platform/text/lettercase.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
 
 namespace {
-
-bool isAscii(char byte) {
-    return static_cast<unsigned char>(byte) < 0x80;
-}
-
-char lowerAscii(char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
-}
 
 // Whether only blanks stand between `position` and the beginning of its line.
 bool firstOnItsLine(std::string_view text, std::size_t position) {

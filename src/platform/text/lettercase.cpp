@@ -1,12 +1,11 @@
-// Lower case of the letters that names in the game's files are met with, and matching by it. The
-// system's own tables are left alone: they follow the user's locale, a file's names must not.
+#include "platform/text/lettercase.h"
 
+#include "platform/text/ascii.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
-namespace {
 
-constexpr char32_t replacement = 0xFFFD;
+namespace {
 
 bool within(char32_t character, char32_t first, char32_t last) {
     return character >= first && character <= last;
@@ -72,19 +71,11 @@ char32_t lowerCyrillic(char32_t character) {
     return within(character, 0x4C1, 0x4CE) ? lowerPair(character, false) : character;
 }
 
-char32_t lowerAscii(char32_t character) {
-    return within(character, 'A', 'Z') ? character + ('a' - 'A') : character;
-}
-
-bool isAscii(char byte) {
-    return static_cast<unsigned char>(byte) < 0x80;
-}
-
 }  // namespace
 
 char32_t lowerCase(char32_t character) {
     if (character < 0x80) {
-        return lowerAscii(character);
+        return static_cast<unsigned char>(lowerAscii(static_cast<char>(character)));
     }
     if (character < 0x100) {
         return lowerLatin1(character);
@@ -104,7 +95,7 @@ std::string lowerCase(std::string_view text) {
     for (std::size_t position = 0; position < text.size();) {
         const std::size_t start = position;
         const char32_t character = nextCharacter(text, position);
-        if (character == replacement) {
+        if (character == replacementCharacter) {
             lower += text.substr(start, position - start);  // an invalid byte stays what it is
         } else {
             appendCharacter(lower, lowerCase(character));
@@ -116,10 +107,7 @@ std::string lowerCase(std::string_view text) {
 bool sameName(std::string_view one, std::string_view other) {
     std::size_t at = 0;
     while (at < one.size() && at < other.size() && isAscii(one[at]) && isAscii(other[at])) {
-        if (lowerAscii(static_cast<unsigned char>(one[at])) !=
-            lowerAscii(static_cast<unsigned char>(other[at]))) {
-            return false;
-        }
+        if (lowerAscii(one[at]) != lowerAscii(other[at])) return false;
         ++at;
     }
     if (at == one.size() || at == other.size()) {

@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "platform/runtime/runtimeerror.h"
-#include "platform/text/utf8.h"
+#include "platform/text/lettercase.h"
 
 namespace tessaro {
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessaro {
+
+/// Names match by the lower case of their letters. The system's own tables are left alone: they
+/// follow the user's locale, a file's names must not.
+
+/// One character's lower case (Latin, Greek and Cyrillic letters), for matching names.
+char32_t lowerCase(char32_t character);
+/// The same of each character.
+std::string lowerCase(std::string_view text);
+/// Whether two names are the same but for case.
+bool sameName(std::string_view one, std::string_view other);
+
+}  // namespace tessaro
