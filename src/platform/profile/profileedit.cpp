@@ -1,6 +1,6 @@
 #include "platform/profile/profileedit.h"
 
-#include "platform/profile/profilebytes.h"
+#include "platform/profile/profiletext.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
@@ -101,35 +101,33 @@ std::string spliced(std::string_view text, const Splice& splice, std::string_vie
 
 // Puts new text between the file's own bytes; nothing if it would not read back as what it is. The
 // other bytes have no say, so that a file of mixed encodings can be written at all.
-std::optional<std::string> splicedBytes(const ProfileBytes& file, const Splice& splice) {
+std::optional<std::string> splicedBytes(const ProfileText& file, const Splice& splice) {
     const auto insertion = encodePiece(splice.insertion, file.encoding());
     if (!insertion) return std::nullopt;
-    std::string bytes = std::string(file.mark()) + spliced(file.text().text(), splice, *insertion);
+    std::string bytes = std::string(file.mark()) + spliced(file.text(), splice, *insertion);
     const bool readsBack = isAsciiText(*insertion) || detectEncoding(bytes) == file.encoding();
     return readsBack ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
-std::string splicedWide(const ProfileBytes& file, const Splice& splice) {
-    const std::string text = spliced(file.text().text(), splice, splice.insertion);
+std::string splicedWide(const ProfileText& file, const Splice& splice) {
+    const std::string text = spliced(file.text(), splice, splice.insertion);
     return *encodeText(text, file.encoding()) + std::string(file.oddByte());
 }
 
-// The whole file in UTF-16LE, with the change.
-std::string widened(std::string_view bytes, Encoding encoding, const ProfileChange& change) {
-    const std::string text = decodeText(bytes, encoding);
-    const auto splice = plan(ProfileText(text, Letters::Utf8), change);
-    return *encodeText(spliced(text, *splice, splice->insertion), Encoding::Utf16LittleEndian);
+// The same text in UTF-16LE, which holds everything.
+std::string widened(std::string_view bytes, Encoding encoding) {
+    return *encodeText(decodeText(bytes, encoding), Encoding::Utf16LittleEndian);
 }
 
 }  // namespace
 
 std::optional<std::string> changedProfile(std::string_view bytes, const ProfileChange& change) {
-    const ProfileBytes file(bytes);
-    const auto splice = plan(file.text(), change);
+    const ProfileText file(bytes);
+    const auto splice = plan(file, change);
     if (!splice) return std::nullopt;
     if (file.wide()) return splicedWide(file, *splice);
     if (auto result = splicedBytes(file, *splice)) return result;
-    return widened(bytes, file.encoding(), change);
+    return changedProfile(widened(bytes, file.encoding()), change);
 }
 
 }  // namespace tessaro

@@ -1,6 +1,6 @@
 #include "platform/profile/profileread.h"
 
-#include "platform/profile/profilebytes.h"
+#include "platform/profile/profiletext.h"
 
 namespace tessaro {
 
@@ -21,8 +21,7 @@ void addName(std::string& listing, const ProfileText& text, std::string_view nam
 
 std::optional<std::string> profileValue(std::string_view bytes, std::string_view section,
                                         std::string_view key) {
-    const ProfileBytes file(bytes);
-    const ProfileText text = file.text();
+    const ProfileText text(bytes);
     const auto place = text.findSection(section);
     if (!place) return std::nullopt;
     const auto found = text.findKey(*place, key);
@@ -30,8 +29,7 @@ std::optional<std::string> profileValue(std::string_view bytes, std::string_view
 }
 
 std::string profileSections(std::string_view bytes) {
-    const ProfileBytes file(bytes);
-    const ProfileText text = file.text();
+    const ProfileText text(bytes);
     std::string listing;
     for (auto section = text.sectionFrom(0); section; section = text.sectionFrom(section->body)) {
         addName(listing, text, section->name);
@@ -40,8 +38,7 @@ std::string profileSections(std::string_view bytes) {
 }
 
 std::optional<std::string> profileKeys(std::string_view bytes, std::string_view section) {
-    const ProfileBytes file(bytes);
-    const ProfileText text = file.text();
+    const ProfileText text(bytes);
     const auto place = text.findSection(section);
     if (!place) return std::nullopt;
     std::string listing;

@@ -1,7 +1,6 @@
 #include "platform/profile/profiletext.h"
 
 #include "platform/text/ascii.h"
-#include "platform/text/encoding.h"
 #include "platform/text/lettercase.h"
 #include "platform/text/utf8.h"
 
@@ -41,8 +40,20 @@ bool mayBegin(std::string_view content, std::string_view name) {
 
 }  // namespace
 
+ProfileText::ProfileText(std::string_view bytes, Encoding encoding)
+    : encoding_(encoding), text_(bytes.substr(markOf(encoding).size())) {
+    if (!wide()) return;
+    oddByte_ = text_.substr(text_.size() - text_.size() % 2);
+    decoded_ = decodeText(bytes.substr(0, bytes.size() - oddByte_.size()), encoding);
+    text_ = decoded_;
+}
+
+bool ProfileText::wide() const {
+    return encoding_ == Encoding::Utf16LittleEndian || encoding_ == Encoding::Utf16BigEndian;
+}
+
 std::string ProfileText::decoded(std::string_view part) const {
-    return decodeText(part, letters_ == Letters::CodePage ? Encoding::CodePage : Encoding::Utf8);
+    return decodeText(part, encoding_ == Encoding::CodePage ? Encoding::CodePage : Encoding::Utf8);
 }
 
 std::optional<ProfileSection> ProfileText::sectionFrom(std::size_t position) const {
@@ -70,7 +81,7 @@ std::optional<ProfileKey> ProfileText::findKey(const ProfileSection& section,
 }
 
 bool ProfileText::matches(std::string_view part, std::string_view name) const {
-    if (letters_ == Letters::Utf8 || isAsciiText(part)) return sameName(part, name);
+    if (encoding_ != Encoding::CodePage || isAsciiText(part)) return sameName(part, name);
     return sameName(decoded(part), name);
 }
 
