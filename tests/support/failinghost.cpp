@@ -68,6 +68,12 @@ std::vector<std::string> FailingHost::list(const HostPath& folder) {
     return real_.list(folder);
 }
 
+std::unique_ptr<FolderLock> FailingHost::lock(const HostPath& folder,
+                                              std::chrono::milliseconds patience) {
+    pass(Call::Lock, folder);
+    return real_.lock(folder, patience);
+}
+
 bool FailingHost::writable(const HostPath& path) {
     return !(protected_ && contains(path, *protected_)) && real_.writable(path);
 }

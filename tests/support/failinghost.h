@@ -12,6 +12,7 @@ namespace tessaro::test {
 enum class Call {
     Status,
     List,
+    Lock,
     Read,
     Create,
     Touch,
@@ -43,6 +44,8 @@ class FailingHost : public Host {
 
     std::optional<HostStatus> status(const HostPath& path) override;
     std::vector<std::string> list(const HostPath& folder) override;
+    std::unique_ptr<FolderLock> lock(const HostPath& folder,
+                                     std::chrono::milliseconds patience) override;
     bool writable(const HostPath& path) override;
     std::string read(const HostPath& file) override;
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override;

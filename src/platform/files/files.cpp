@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/files/standins.h"
-#include "platform/files/wholefile.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
 #include "platform/text/wildcard.h"
@@ -173,6 +172,12 @@ std::string Files::read(std::string_view file) {
 void Files::replace(std::string_view file, std::string_view bytes) {
     const HostPath path = paths_.toHost(file);
     replaceFile(host_, path, bytes);
+    paths_.forget(path.parent_path());
+}
+
+void Files::change(std::string_view file, const FileChange& change) {
+    const HostPath path = paths_.toHost(file);
+    changeFile(host_, path, change);
     paths_.forget(path.parent_path());
 }
 

@@ -7,6 +7,7 @@
 
 #include "platform/files/host.h"
 #include "platform/files/paths.h"
+#include "platform/files/wholefile.h"
 
 namespace tessaro {
 
@@ -52,6 +53,8 @@ class Files {
     std::string read(std::string_view file);
     /// Replaces a file whole (see wholefile.h), or creates it.
     void replace(std::string_view file, std::string_view bytes);
+    /// Reads, changes and replaces a file as one step (see wholefile.h). A missing file is created.
+    void change(std::string_view file, const FileChange& change);
     /// Opens for appending and closes. Creates an empty file, or changes nothing.
     void touch(std::string_view file);
 

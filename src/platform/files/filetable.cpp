@@ -68,9 +68,10 @@ void FileTable::save(const OpenFile& file) {
     if (file.mode == Mode::Output) {
         files_.replace(file.path, encodeOrWiden(file.text, file.encoding));
     } else if (file.mode == Mode::Append && !file.text.empty()) {
-        const std::string bytes = files_.read(file.path);
-        const Encoding encoding = detectEncoding(bytes);
-        files_.replace(file.path, encodeOrWiden(decodeText(bytes, encoding) + file.text, encoding));
+        files_.change(file.path, [&](std::string_view bytes) {
+            const Encoding encoding = detectEncoding(bytes);
+            return std::optional(encodeOrWiden(decodeText(bytes, encoding) + file.text, encoding));
+        });
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -48,6 +49,12 @@ class HeldFolder {
     virtual std::optional<FolderStamp> stamp() = 0;
 };
 
+/// The exclusive right to change files in a folder, among programs of ours; given up at its end.
+class FolderLock {
+  public:
+    virtual ~FolderLock() = default;
+};
+
 /// What the program asks of the operating system's files. Links are followed. Every member raises
 /// RunTimeError with the number that fits the host's error; the failing twin of the tests raises
 /// where it is told to.
@@ -61,6 +68,10 @@ class Host {
     virtual std::vector<std::string> list(const HostPath& folder) = 0;
     /// Nothing on a host where holding a folder would stand in somebody's way.
     virtual std::unique_ptr<HeldFolder> hold(const HostPath& /*folder*/) { return nullptr; }
+    /// Waits its turn. Nothing if it does not come within `patience`, or where there are no locks.
+    /// Not to be asked for twice by one program: it would wait for itself.
+    virtual std::unique_ptr<FolderLock> lock(const HostPath& folder,
+                                             std::chrono::milliseconds patience) = 0;
     /// Whether this is a file (no folder, no device) that its flags and the system let us write.
     virtual bool writable(const HostPath& path) = 0;
     virtual std::string read(const HostPath& file) = 0;

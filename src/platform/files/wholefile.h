@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/files/host.h"
@@ -11,6 +14,14 @@ namespace tessaro {
 /// one. Raises 75 for a file that is read-only or is a folder, 76 for a missing folder, 61 for a
 /// full disk; what was written beside is then removed.
 void replaceFile(Host& host, const HostPath& file, std::string_view bytes);
+
+/// What a file's bytes are to become, empty ones standing for no file; nothing leaves it as it is.
+using FileChange = std::function<std::optional<std::string>(std::string_view bytes)>;
+
+/// Reads a file, changes its bytes and replaces it, as one step: two of our programs that change
+/// one file take turns, and where another program changed it meanwhile the change is made again, to
+/// what it holds now. Raises 70 if that never ends, else what reading and `replaceFile` raise.
+void changeFile(Host& host, const HostPath& file, const FileChange& change);
 
 /// Raises the 75 or 76 that `replaceFile` would, and writes nothing.
 void requireReplaceable(Host& host, const HostPath& file);

@@ -1,7 +1,10 @@
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <thread>
 
 #include "platform/files/host.h"
 #include "platform/posix/descriptor.h"
@@ -17,6 +20,7 @@ constexpr mode_t permissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
 constexpr mode_t newFile = anyWriteBit | S_IRUSR | S_IRGRP | S_IROTH;
 constexpr mode_t onlyOurs = S_IRUSR | S_IWUSR;
 constexpr int mostLinks = 40;
+constexpr std::chrono::microseconds betweenLooks{100};
 
 void raiseIfFailed(int result, const HostPath& path) {
     if (result == -1) raiseErrno(path);
@@ -111,6 +115,25 @@ class PosixHeldFolder : public HeldFolder {
     Descriptor folder_;
 };
 
+// Asks again and again, since a wait in the kernel has no limit. The pauses are short, so that
+// others who lock in a row do not keep us out for long.
+bool locked(int folder, std::chrono::milliseconds patience) {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (::flock(folder, LOCK_EX | LOCK_NB) == -1) {
+        if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= end) return false;
+        std::this_thread::sleep_for(betweenLooks);
+    }
+    return true;
+}
+
+class PosixFolderLock : public FolderLock {
+  public:
+    explicit PosixFolderLock(Descriptor folder) : folder_(std::move(folder)) {}
+
+  private:
+    Descriptor folder_;  // the lock goes when this is closed, also by a kill
+};
+
 class PosixHost : public Host {
   public:
     std::optional<HostStatus> status(const HostPath& path) override {
@@ -138,6 +161,18 @@ class PosixHost : public Host {
 
     std::unique_ptr<HeldFolder> hold(const HostPath& folder) override {
         return std::make_unique<PosixHeldFolder>(Descriptor(folder, O_RDONLY | O_DIRECTORY));
+    }
+
+    std::unique_ptr<FolderLock> lock(const HostPath& folder,
+                                     std::chrono::milliseconds patience) override {
+        std::unique_ptr<FolderLock> lock;
+        attempt([&] {
+            Descriptor opened(folder, O_RDONLY | O_DIRECTORY);
+            if (locked(opened.get(), patience)) {
+                lock = std::make_unique<PosixFolderLock>(std::move(opened));
+            }
+        });
+        return lock;
     }
 
     bool writable(const HostPath& path) override {

@@ -35,16 +35,6 @@ bool isForged(std::string_view section, std::optional<std::string_view> key,
     return breaksLine(section) || breaksLine(key.value_or("")) || breaksLine(text.value_or(""));
 }
 
-// A file that is not there is an empty one: deleting from it is done, writing creates it.
-std::string readOrEmpty(Files& files, std::string_view file) {
-    try {
-        return files.read(file);
-    } catch (const RunTimeError& error) {
-        if (error.number() != errors::FileNotFound) throw;
-        return {};
-    }
-}
-
 }  // namespace
 
 std::string ProfileCalls::getPrivateProfileString(std::optional<std::string_view> section,
@@ -72,9 +62,9 @@ bool ProfileCalls::writePrivateProfileString(std::string_view section,
                                              std::string_view file) {
     if (isForged(section, key, text)) return false;
     return attempt([&] {
-        const std::string bytes = readOrEmpty(files_, file);
-        const auto changed = changedProfile(bytes, {trimSpaces(section), trimmed(key), text});
-        if (changed) files_.replace(file, *changed);
+        files_.change(file, [&](std::string_view bytes) {
+            return changedProfile(bytes, {trimSpaces(section), trimmed(key), text});
+        });
     });
 }
 

@@ -12,6 +12,7 @@
 #include "platform/outside/systemversion.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/posixcopy.h"
+#include "support/forkedchild.h"
 #include "support/testworld.h"
 
 namespace tessaro {
@@ -195,14 +196,8 @@ void killAfter(const HostPath& file, int turns, int calls) {
     ::close(ends[0]);
 }
 
-// Where flushing costs nothing, if there is such a place: hundreds of files are written.
-HostPath inMemory() {
-    const HostPath shared = "/dev/shm";
-    return ::access(shared.c_str(), W_OK | X_OK) == 0 ? shared : fs::temp_directory_path();
-}
-
 TEST(PosixHost, AKilledWriterLeavesTheOneTextOrTheOther) {
-    const Real real(inMemory());
+    const Real real(test::inMemory());
     const HostPath file = real.write("user.ini", oneText);
     std::minstd_rand chance(20);
     std::uniform_int_distribution<int> turns(1, 3);
