@@ -12,6 +12,7 @@ struct Splice {
     std::size_t begin = 0;
     std::size_t size = 0;
     std::string insertion;
+    bool operator==(const Splice&) const = default;
 };
 
 bool endsLine(std::string_view text) {
@@ -99,14 +100,23 @@ std::string spliced(std::string_view text, const Splice& splice, std::string_vie
     return result;
 }
 
-// Puts new text between the file's own bytes; nothing if it would not read back as what it is. The
-// other bytes have no say, so that a file of mixed encodings can be written at all.
-std::optional<std::string> splicedBytes(const ProfileText& file, const Splice& splice) {
+// Whether changed bytes hold the change. Bytes that came or went may let the whole file look like
+// another encoding; then the names in it may be others, and the change still to be made.
+bool readsBack(std::string_view bytes, Encoding encoding, const ProfileChange& change) {
+    const Encoding seen = detectEncoding(bytes);
+    return seen == encoding || isAsciiText(bytes) ||
+           plan(ProfileText(bytes, seen), change) == plan(ProfileText(bytes, encoding), change);
+}
+
+// Puts new text between the file's own bytes; nothing if the change would not read back. The other
+// lines have no say, so that a file of mixed encodings can be written at all.
+std::optional<std::string> splicedBytes(const ProfileText& file, const Splice& splice,
+                                        const ProfileChange& change) {
     const auto insertion = encodePiece(splice.insertion, file.encoding());
     if (!insertion) return std::nullopt;
     std::string bytes = std::string(file.mark()) + spliced(file.text(), splice, *insertion);
-    const bool readsBack = isAsciiText(*insertion) || detectEncoding(bytes) == file.encoding();
-    return readsBack ? std::optional(std::move(bytes)) : std::nullopt;
+    if (!readsBack(bytes, file.encoding(), change)) return std::nullopt;
+    return bytes;
 }
 
 std::string splicedWide(const ProfileText& file, const Splice& splice) {
@@ -126,7 +136,7 @@ std::optional<std::string> changedProfile(std::string_view bytes, const ProfileC
     const auto splice = plan(file, change);
     if (!splice) return std::nullopt;
     if (file.wide()) return splicedWide(file, *splice);
-    if (auto result = splicedBytes(file, *splice)) return result;
+    if (auto result = splicedBytes(file, *splice, change)) return result;
     return changedProfile(widened(bytes, file.encoding()), change);
 }
 

@@ -53,7 +53,7 @@ bool ProfileText::wide() const {
 }
 
 std::string ProfileText::decoded(std::string_view part) const {
-    return decodeText(part, encoding_ == Encoding::CodePage ? Encoding::CodePage : Encoding::Utf8);
+    return encoding_ == Encoding::CodePage ? decodeText(part, encoding_) : wholeCharacters(part);
 }
 
 std::optional<ProfileSection> ProfileText::sectionFrom(std::size_t position) const {
@@ -81,8 +81,7 @@ std::optional<ProfileKey> ProfileText::findKey(const ProfileSection& section,
 }
 
 bool ProfileText::matches(std::string_view part, std::string_view name) const {
-    if (encoding_ != Encoding::CodePage || isAsciiText(part)) return sameName(part, name);
-    return sameName(decoded(part), name);
+    return isAsciiText(part) ? sameName(part, name) : sameName(decoded(part), name);
 }
 
 }  // namespace tessaro

@@ -90,14 +90,20 @@ class Utf16 {
         return littleEndian_ ? first | (char32_t{second} << 8U) : second | (char32_t{first} << 8U);
     }
 
-    void append(std::string& bytes, char32_t unit) const {
+    void append(std::string& bytes, char32_t character) const {
+        if (character < 0x10000) return appendUnit(bytes, character);
+        appendUnit(bytes, 0xD800 + ((character - 0x10000) >> 10U));
+        appendUnit(bytes, 0xDC00 + ((character - 0x10000) & 0x3FFU));
+    }
+
+  private:
+    void appendUnit(std::string& bytes, char32_t unit) const {
         const auto low = static_cast<char>(unit & 0xFFU);
         const auto high = static_cast<char>(unit >> 8U);
         bytes += littleEndian_ ? low : high;
         bytes += littleEndian_ ? high : low;
     }
 
-  private:
     bool littleEndian_;
 };
 
@@ -129,9 +135,6 @@ std::string encodeUtf16(std::string_view text, const Utf16& utf16) {
         const char32_t character = nextKept(text, position);
         if (character >= oddByte) {
             odd += static_cast<char>(character & 0xFFU);
-        } else if (character >= 0x10000) {
-            utf16.append(bytes, 0xD800 + ((character - 0x10000) >> 10U));
-            utf16.append(bytes, 0xDC00 + ((character - 0x10000) & 0x3FFU));
         } else {
             utf16.append(bytes, character);
         }
@@ -162,6 +165,17 @@ std::string_view markOf(Encoding encoding) {
             break;
     }
     return {};
+}
+
+std::string wholeCharacters(std::string_view text) {
+    if (isValidUtf8(text)) return std::string(text);
+    const Utf16 utf16(Encoding::Utf16LittleEndian);
+    std::string bytes;
+    for (std::size_t position = 0; position < text.size();) {
+        const char32_t character = nextKept(text, position);
+        if (character < oddByte) utf16.append(bytes, character);
+    }
+    return decodeUtf16(bytes, utf16);
 }
 
 std::string decodeText(std::string_view bytes, Encoding encoding) {
