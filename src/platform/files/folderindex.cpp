@@ -6,9 +6,7 @@
 
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
-#include "platform/text/ascii.h"
 #include "platform/text/lettercase.h"
-#include "platform/text/utf8.h"
 
 namespace tessaro {
 
@@ -33,26 +31,13 @@ std::int64_t nanosecondsNow() {
     return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
 }
 
-char32_t foldedCharacter(std::string_view name, std::size_t& position) {
-    if (!isAscii(name[position])) return lowerCase(nextCharacter(name, position));
-    return static_cast<unsigned char>(lowerAscii(name[position++]));
-}
-
-std::uint32_t foldedHash(std::string_view name) {
-    std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
-    for (std::size_t position = 0; position < name.size();) {
-        hash = (hash ^ foldedCharacter(name, position)) * 0x100000001B3;
-    }
-    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
-}
-
 }  // namespace
 
 void FolderIndex::Table::fill(std::vector<std::string> names) {
     names_ = std::move(names);
     slots_.assign(std::bit_ceil(2 * names_.size() + 1), {});
     for (std::size_t index = 0; index < names_.size(); ++index) {
-        const std::uint32_t hash = foldedHash(names_[index]);
+        const std::uint32_t hash = nameHash(names_[index]);
         std::size_t at = hash & (slots_.size() - 1);
         while (slots_[at].name != 0) at = (at + 1) & (slots_.size() - 1);
         slots_[at] = {hash, static_cast<std::uint32_t>(index + 1)};
@@ -60,7 +45,7 @@ void FolderIndex::Table::fill(std::vector<std::string> names) {
 }
 
 const std::string* FolderIndex::Table::find(std::string_view name) const {
-    const std::uint32_t hash = foldedHash(name);
+    const std::uint32_t hash = nameHash(name);
     const std::size_t mask = slots_.size() - 1;
     const std::string* best = nullptr;
     for (std::size_t at = hash & mask; slots_[at].name != 0; at = (at + 1) & mask) {
