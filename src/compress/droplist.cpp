@@ -2,6 +2,7 @@
 
 #include "core/VORNX.h"
 #include "platform/runtime/runtimeerror.h"
+#include "platform/text/lettercase.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {

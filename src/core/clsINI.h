@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/files/filetable.h"
-#include "platform/profile/profile.h"
+#include "platform/profile/profilecalls.h"
 #include "platform/runtime/int16.h"
 
 namespace tessaro {

@@ -1,6 +1,6 @@
 #include "core/modWinVersion.h"
 
-#include "platform/text/utf8.h"
+#include "platform/text/lettercase.h"
 
 namespace tessaro {
 namespace {

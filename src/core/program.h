@@ -9,7 +9,7 @@
 #include "platform/outside/events.h"
 #include "platform/outside/processes.h"
 #include "platform/outside/sounds.h"
-#include "platform/profile/profile.h"
+#include "platform/profile/profilecalls.h"
 
 namespace tessaro {
 

@@ -3,8 +3,8 @@
 #include "core/gamefiles.h"
 #include "core/routines.h"
 #include "platform/runtime/runtimeerror.h"
+#include "platform/text/lettercase.h"
 #include "platform/text/numbers.h"
-#include "platform/text/utf8.h"
 
 namespace tessaro {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "platform/runtime/runtimeerror.h"
-#include "platform/text/utf8.h"
+#include "platform/text/lettercase.h"
 
 namespace tessaro::test {
 namespace {

@@ -8,7 +8,7 @@
 #include "platform/files/files.h"
 #include "platform/files/filetable.h"
 #include "platform/files/paths.h"
-#include "platform/profile/profile.h"
+#include "platform/profile/profilecalls.h"
 #include "platform/runtime/runtimeerror.h"
 #include "support/failinghost.h"
 

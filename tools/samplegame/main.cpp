@@ -10,7 +10,7 @@
 #include "platform/files/files.h"
 #include "platform/files/filetable.h"
 #include "platform/files/paths.h"
-#include "platform/profile/profile.h"
+#include "platform/profile/profilecalls.h"
 #include "tools/samplegame/samplegame.h"
 #include "tools/ucc/programs.h"
 

@@ -11,7 +11,7 @@
 #include "kit/look/pictures.h"
 #include "kit/look/text.h"
 #include "platform/runtime/runtimeerror.h"
-#include "platform/text/utf8.h"
+#include "platform/text/lettercase.h"
 
 namespace tessaro {
 namespace {

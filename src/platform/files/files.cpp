@@ -5,7 +5,7 @@
 
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
-#include "platform/text/utf8.h"
+#include "platform/text/lettercase.h"
 #include "platform/text/wildcard.h"
 
 namespace tessaro {

@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "platform/files/standins.h"
-#include "platform/text/utf8.h"
+#include "platform/runtime/runtimeerror.h"
+#include "platform/text/lettercase.h"
 
 namespace tessaro {
 
@@ -30,28 +31,13 @@ std::int64_t nanosecondsNow() {
     return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
 }
 
-char32_t foldedCharacter(std::string_view name, std::size_t& position) {
-    const auto byte = static_cast<unsigned char>(name[position]);
-    if (byte >= 0x80) return lowerCase(nextCharacter(name, position));
-    ++position;
-    return byte >= 'A' && byte <= 'Z' ? byte + ('a' - 'A') : byte;
-}
-
-std::uint32_t foldedHash(std::string_view name) {
-    std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
-    for (std::size_t position = 0; position < name.size();) {
-        hash = (hash ^ foldedCharacter(name, position)) * 0x100000001B3;
-    }
-    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
-}
-
 }  // namespace
 
 void FolderIndex::Table::fill(std::vector<std::string> names) {
     names_ = std::move(names);
     slots_.assign(std::bit_ceil(2 * names_.size() + 1), {});
     for (std::size_t index = 0; index < names_.size(); ++index) {
-        const std::uint32_t hash = foldedHash(names_[index]);
+        const std::uint32_t hash = nameHash(names_[index]);
         std::size_t at = hash & (slots_.size() - 1);
         while (slots_[at].name != 0) at = (at + 1) & (slots_.size() - 1);
         slots_[at] = {hash, static_cast<std::uint32_t>(index + 1)};
@@ -59,7 +45,7 @@ void FolderIndex::Table::fill(std::vector<std::string> names) {
 }
 
 const std::string* FolderIndex::Table::find(std::string_view name) const {
-    const std::uint32_t hash = foldedHash(name);
+    const std::uint32_t hash = nameHash(name);
     const std::size_t mask = slots_.size() - 1;
     const std::string* best = nullptr;
     for (std::size_t at = hash & mask; slots_[at].name != 0; at = (at + 1) & mask) {

@@ -6,6 +6,7 @@
 
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
+#include "platform/text/ascii.h"
 
 namespace tessaro {
 
@@ -17,16 +18,8 @@ bool isSeparator(char character) {
     return character == '\\' || character == '/';
 }
 
-bool isLetter(char character) {
-    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
-}
-
-char upper(char letter) {
-    return static_cast<char>(letter & ~0x20);
-}
-
 bool namesDrive(std::string_view path) {
-    return path.size() >= letterSize && path[1] == ':' && isLetter(path[0]);
+    return path.size() >= letterSize && path[1] == ':' && isAsciiLetter(path[0]);
 }
 
 std::string rootText(char drive) {
@@ -141,7 +134,7 @@ std::string Paths::toGame(const HostPath& path) const {
 std::string Paths::absolute(std::string_view path) const {
     char drive = drive_;
     if (namesDrive(path)) {
-        drive = upper(path.front());
+        drive = upperAscii(path.front());
         path.remove_prefix(letterSize);
     }
     std::string full{drive, ':'};
@@ -175,8 +168,9 @@ void Paths::changeFolder(std::string_view path) {
 }
 
 void Paths::changeDrive(std::string_view drive) {
-    if (drive.empty() || !isLetter(drive.front())) throw RunTimeError(errors::InvalidProcedureCall);
-    const char letter = upper(drive.front());
+    if (drive.empty() || !isAsciiLetter(drive.front()))
+        throw RunTimeError(errors::InvalidProcedureCall);
+    const char letter = upperAscii(drive.front());
     const HostPath& root = rootOf(letter);
     // A drive whose current folder is gone is entered at its root.
     if (!attempt([&] { host_.changeFolder(toHostFull(folders_[letter])); })) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/runtime/runtimeerror.h"
-#include "platform/text/utf8.h"
+#include "platform/text/lettercase.h"
 
 namespace tessaro {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/text/ascii.h"
+
 namespace tessaro {
 
 namespace {
@@ -74,8 +76,7 @@ CommandLine splitCommandLine(std::string_view line) {
 
 bool isFullGamePath(std::string_view text) {
     if (text.size() < 3 || text.substr(1, 2) != ":\\") return false;
-    const char letter = static_cast<char>(text.front() | 0x20);
-    return letter >= 'a' && letter <= 'z';
+    return isAsciiLetter(text.front());
 }
 
 }  // namespace tessaro

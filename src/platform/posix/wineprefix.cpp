@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "platform/files/drives.h"
+#include "platform/text/ascii.h"
 
 namespace tessaro {
 
@@ -33,9 +34,8 @@ void addDrive(DriveMap& drives, char letter, const HostPath& folder) {
 
 // Gives 'D' for "d:", 0 for everything else: "d::" is the raw device, "com1" a port.
 char letterOf(const std::string& link) {
-    if (link.size() != 2 || link[1] != ':') return 0;
-    if (link[0] >= 'a' && link[0] <= 'z') return static_cast<char>(link[0] - 'a' + 'A');
-    return link[0] >= 'A' && link[0] <= 'Z' ? link[0] : '\0';
+    if (link.size() != 2 || link[1] != ':' || !isAsciiLetter(link[0])) return 0;
+    return upperAscii(link[0]);
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 #include "platform/profile/profileread.h"
 
-#include "platform/profile/profilebytes.h"
+#include "platform/profile/profiletext.h"
 
 namespace tessaro {
+
 namespace {
 
 std::string_view withoutQuotes(std::string_view value) {
@@ -20,19 +21,15 @@ void addName(std::string& listing, const ProfileText& text, std::string_view nam
 
 std::optional<std::string> profileValue(std::string_view bytes, std::string_view section,
                                         std::string_view key) {
-    const ProfileBytes file(bytes);
-    const ProfileText text = file.text();
+    const ProfileText text(bytes);
     const auto place = text.findSection(section);
-    if (!place) {
-        return std::nullopt;
-    }
+    if (!place) return std::nullopt;
     const auto found = text.findKey(*place, key);
     return found ? std::optional(text.decoded(withoutQuotes(found->value))) : std::nullopt;
 }
 
 std::string profileSections(std::string_view bytes) {
-    const ProfileBytes file(bytes);
-    const ProfileText text = file.text();
+    const ProfileText text(bytes);
     std::string listing;
     for (auto section = text.sectionFrom(0); section; section = text.sectionFrom(section->body)) {
         addName(listing, text, section->name);
@@ -41,18 +38,13 @@ std::string profileSections(std::string_view bytes) {
 }
 
 std::optional<std::string> profileKeys(std::string_view bytes, std::string_view section) {
-    const ProfileBytes file(bytes);
-    const ProfileText text = file.text();
+    const ProfileText text(bytes);
     const auto place = text.findSection(section);
-    if (!place) {
-        return std::nullopt;
-    }
+    if (!place) return std::nullopt;
     std::string listing;
     ProfileLines lines = text.lines(*place);
     while (const auto line = lines.next()) {
-        if (const auto key = keyOf(*line)) {
-            addName(listing, text, key->name);
-        }
+        if (const auto key = keyOf(*line)) addName(listing, text, key->name);
     }
     return listing;
 }

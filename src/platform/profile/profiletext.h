@@ -6,11 +6,9 @@
 #include <string_view>
 
 #include "platform/profile/profilelines.h"
+#include "platform/text/encoding.h"
 
 namespace tessaro {
-
-/// How the bytes of a profile text stand for letters outside ASCII.
-enum class Letters { CodePage, Utf8 };
 
 /// A section's header. Positions are bytes in the text.
 struct ProfileSection {
@@ -19,13 +17,26 @@ struct ProfileSection {
     std::string_view name;
 };
 
-/// Finds the parts of a profile file's text where they stand, without copying or changing it. The
-/// rules are in docs/profile-calls.md. The text must outlive this object.
+/// A profile file's bytes made readable, and its parts found where they stand. The rules are in
+/// docs/profile-calls.md. 8-bit files are read without copying, since one key of a large file is
+/// asked for at a time; UTF-16 is decoded first. The bytes must outlive this object.
 class ProfileText {
   public:
-    ProfileText(std::string_view text, Letters letters) : text_(text), letters_(letters) {}
+    explicit ProfileText(std::string_view bytes) : ProfileText(bytes, detectEncoding(bytes)) {}
+    /// Takes the bytes for text in an encoding, whatever they look like.
+    ProfileText(std::string_view bytes, Encoding encoding);
+    ProfileText(const ProfileText&) = delete;
+    ProfileText& operator=(const ProfileText&) = delete;
 
+    Encoding encoding() const { return encoding_; }
+    bool wide() const;
+    /// What stands before the text.
+    std::string_view mark() const { return markOf(encoding_); }
+    /// The last byte of a UTF-16 file of odd size, which is no text.
+    std::string_view oddByte() const { return oddByte_; }
+    /// What lies between: the file's own bytes, or UTF-8 made from UTF-16.
     std::string_view text() const { return text_; }
+
     std::size_t position(std::string_view part) const {
         return static_cast<std::size_t>(part.data() - text_.data());
     }
@@ -43,8 +54,10 @@ class ProfileText {
   private:
     bool matches(std::string_view part, std::string_view name) const;
 
+    Encoding encoding_;
+    std::string decoded_;
     std::string_view text_;
-    Letters letters_;
+    std::string_view oddByte_;
 };
 
 }  // namespace tessaro

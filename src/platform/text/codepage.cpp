@@ -4,6 +4,7 @@
 #include <array>
 
 namespace tessaro {
+
 namespace {
 
 // Codes 80 to 9F; the page is Latin-1 everywhere else.
@@ -24,13 +25,9 @@ char32_t fromCodePage(unsigned char code) {
 }
 
 std::optional<unsigned char> toCodePage(char32_t character) {
-    if (isLatin1(character)) {
-        return static_cast<unsigned char>(character);
-    }
+    if (isLatin1(character)) return static_cast<unsigned char>(character);
     const auto* found = std::ranges::find(upperControls, character);
-    if (found == upperControls.end()) {
-        return std::nullopt;
-    }
+    if (found == upperControls.end()) return std::nullopt;
     return static_cast<unsigned char>(firstControl +
                                       static_cast<unsigned>(found - upperControls.begin()));
 }

@@ -4,6 +4,7 @@
 #include "platform/text/utf8.h"
 
 namespace tessaro {
+
 namespace {
 
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
@@ -73,9 +74,7 @@ std::optional<std::string> encodeCodePage(std::string_view text) {
     bytes.reserve(text.size());
     for (std::size_t position = 0; position < text.size();) {
         const auto code = toCodePage(nextKept(text, position));
-        if (!code) {
-            return std::nullopt;
-        }
+        if (!code) return std::nullopt;
         bytes += static_cast<char>(*code);
     }
     return bytes;
@@ -91,14 +90,20 @@ class Utf16 {
         return littleEndian_ ? first | (char32_t{second} << 8U) : second | (char32_t{first} << 8U);
     }
 
-    void append(std::string& bytes, char32_t unit) const {
+    void append(std::string& bytes, char32_t character) const {
+        if (character < 0x10000) return appendUnit(bytes, character);
+        appendUnit(bytes, 0xD800 + ((character - 0x10000) >> 10U));
+        appendUnit(bytes, 0xDC00 + ((character - 0x10000) & 0x3FFU));
+    }
+
+  private:
+    void appendUnit(std::string& bytes, char32_t unit) const {
         const auto low = static_cast<char>(unit & 0xFFU);
         const auto high = static_cast<char>(unit >> 8U);
         bytes += littleEndian_ ? low : high;
         bytes += littleEndian_ ? high : low;
     }
 
-  private:
     bool littleEndian_;
 };
 
@@ -130,9 +135,6 @@ std::string encodeUtf16(std::string_view text, const Utf16& utf16) {
         const char32_t character = nextKept(text, position);
         if (character >= oddByte) {
             odd += static_cast<char>(character & 0xFFU);
-        } else if (character >= 0x10000) {
-            utf16.append(bytes, 0xD800 + ((character - 0x10000) >> 10U));
-            utf16.append(bytes, 0xDC00 + ((character - 0x10000) & 0x3FFU));
         } else {
             utf16.append(bytes, character);
         }
@@ -143,15 +145,9 @@ std::string encodeUtf16(std::string_view text, const Utf16& utf16) {
 }  // namespace
 
 Encoding detectEncoding(std::string_view bytes) {
-    if (bytes.starts_with(littleEndianMark)) {
-        return Encoding::Utf16LittleEndian;
-    }
-    if (bytes.starts_with(bigEndianMark)) {
-        return Encoding::Utf16BigEndian;
-    }
-    if (bytes.starts_with(utf8Mark)) {
-        return Encoding::Utf8Mark;
-    }
+    if (bytes.starts_with(littleEndianMark)) return Encoding::Utf16LittleEndian;
+    if (bytes.starts_with(bigEndianMark)) return Encoding::Utf16BigEndian;
+    if (bytes.starts_with(utf8Mark)) return Encoding::Utf8Mark;
     const bool letters = !isAsciiText(bytes);
     return letters && isValidUtf8(bytes) ? Encoding::Utf8 : Encoding::CodePage;
 }
@@ -171,10 +167,19 @@ std::string_view markOf(Encoding encoding) {
     return {};
 }
 
-std::string decodeText(std::string_view bytes, Encoding encoding) {
-    if (bytes.starts_with(markOf(encoding))) {
-        bytes.remove_prefix(markOf(encoding).size());
+std::string wholeCharacters(std::string_view text) {
+    if (isValidUtf8(text)) return std::string(text);
+    const Utf16 utf16(Encoding::Utf16LittleEndian);
+    std::string bytes;
+    for (std::size_t position = 0; position < text.size();) {
+        const char32_t character = nextKept(text, position);
+        if (character < oddByte) utf16.append(bytes, character);
     }
+    return decodeUtf16(bytes, utf16);
+}
+
+std::string decodeText(std::string_view bytes, Encoding encoding) {
+    if (bytes.starts_with(markOf(encoding))) bytes.remove_prefix(markOf(encoding).size());
     switch (encoding) {
         case Encoding::CodePage:
             return decodeCodePage(bytes);
@@ -206,18 +211,14 @@ std::optional<std::string> encodePiece(std::string_view text, Encoding encoding)
 
 std::optional<std::string> encodeText(std::string_view text, Encoding encoding) {
     const auto piece = encodePiece(text, encoding);
-    if (!piece) {
-        return std::nullopt;
-    }
+    if (!piece) return std::nullopt;
     std::string bytes = std::string(markOf(encoding)) + *piece;
     const bool readsBack = isAsciiText(bytes) || detectEncoding(bytes) == encoding;
     return readsBack ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 std::string encodeOrWiden(std::string_view text, Encoding encoding) {
-    if (auto bytes = encodeText(text, encoding)) {
-        return *std::move(bytes);
-    }
+    if (auto bytes = encodeText(text, encoding)) return *std::move(bytes);
     return *encodeText(text, Encoding::Utf16LittleEndian);
 }
 

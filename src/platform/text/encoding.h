@@ -17,6 +17,10 @@ Encoding detectEncoding(std::string_view bytes);
 /// The byte order mark that a file of this encoding begins with; empty for the two without.
 std::string_view markOf(Encoding encoding);
 
+/// A text as it would come back from a file: a stray byte is taken for a letter of the code page,
+/// two halves of a pair make one character, and the odd byte of a UTF-16 file goes.
+std::string wholeCharacters(std::string_view text);
+
 /// Bytes of a file (with its mark) to UTF-8. Loses nothing: what is no character in the encoding
 /// comes back from `encodeText` as the same bytes.
 std::string decodeText(std::string_view bytes, Encoding encoding);

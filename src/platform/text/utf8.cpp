@@ -4,15 +4,11 @@
 #include <cstring>
 
 #include "platform/runtime/runtimeerror.h"
+#include "platform/text/ascii.h"
 
 namespace tessaro {
+
 namespace {
-
-constexpr char32_t replacement = 0xFFFD;
-
-bool isAscii(char byte) {
-    return static_cast<unsigned char>(byte) < 0x80;
-}
 
 struct Lead {
     std::size_t size;
@@ -22,18 +18,10 @@ struct Lead {
 
 Lead leadOf(char byte) {
     const auto value = static_cast<unsigned char>(byte);
-    if (value < 0x80) {
-        return {1, value, 0};
-    }
-    if (value < 0xC0) {
-        return {0, 0, 0};
-    }
-    if (value < 0xE0) {
-        return {2, value & 0x1FU, 0x80};
-    }
-    if (value < 0xF0) {
-        return {3, value & 0x0FU, 0x800};
-    }
+    if (value < 0x80) return {1, value, 0};
+    if (value < 0xC0) return {0, 0, 0};
+    if (value < 0xE0) return {2, value & 0x1FU, 0x80};
+    if (value < 0xF0) return {3, value & 0x0FU, 0x800};
     return {value < 0xF8 ? std::size_t{4} : 0, value & 0x07U, 0x10000};
 }
 
@@ -44,15 +32,11 @@ bool isCharacter(char32_t value) {
 // Bytes of the character at `position`, or 0 if there is none.
 std::size_t sizeAt(std::string_view text, std::size_t position, char32_t& character) {
     const Lead lead = leadOf(text[position]);
-    if (lead.size == 0 || lead.size > text.size() - position) {
-        return 0;
-    }
+    if (lead.size == 0 || lead.size > text.size() - position) return 0;
     character = lead.bits;
     for (std::size_t i = 1; i < lead.size; ++i) {
         const auto byte = static_cast<unsigned char>(text[position + i]);
-        if ((byte & 0xC0U) != 0x80) {
-            return 0;
-        }
+        if ((byte & 0xC0U) != 0x80) return 0;
         character = (character << 6U) | (byte & 0x3FU);
     }
     return character >= lead.smallest && isCharacter(character) ? lead.size : 0;
@@ -63,14 +47,10 @@ std::size_t skipAscii(std::string_view text, std::size_t position) {
     while (text.size() - position >= sizeof(std::uint64_t)) {
         std::uint64_t block = 0;
         std::memcpy(&block, text.data() + position, sizeof block);
-        if ((block & 0x8080808080808080U) != 0) {
-            break;
-        }
+        if ((block & 0x8080808080808080U) != 0) break;
         position += sizeof block;
     }
-    while (position < text.size() && isAscii(text[position])) {
-        ++position;
-    }
+    while (position < text.size() && isAscii(text[position])) ++position;
     return position;
 }
 
@@ -89,7 +69,7 @@ char32_t nextCharacter(std::string_view text, std::size_t& position) {
     char32_t character = 0;
     const std::size_t size = sizeAt(text, position, character);
     position += size == 0 ? 1 : size;
-    return size == 0 ? replacement : character;
+    return size == 0 ? replacementCharacter : character;
 }
 
 void appendCharacter(std::string& text, char32_t character) {
@@ -121,9 +101,7 @@ bool isValidUtf8(std::string_view text) {
     std::size_t position = skipAscii(text, 0);
     while (position < text.size()) {
         const std::size_t size = sizeAt(text, position, character);
-        if (size == 0) {
-            return false;
-        }
+        if (size == 0) return false;
         position = skipAscii(text, position + size);
     }
     return true;
@@ -131,9 +109,7 @@ bool isValidUtf8(std::string_view text) {
 
 std::size_t length(std::string_view text) {
     std::size_t count = 0;
-    for (std::size_t position = 0; position < text.size(); ++count) {
-        nextCharacter(text, position);
-    }
+    for (std::size_t position = 0; position < text.size(); ++count) nextCharacter(text, position);
     return count;
 }
 
@@ -147,17 +123,13 @@ std::string_view right(std::string_view text, std::size_t count) {
 }
 
 std::string_view mid(std::string_view text, std::size_t start, std::size_t count) {
-    if (start == 0) {
-        throw RunTimeError(errors::InvalidProcedureCall);
-    }
+    if (start == 0) throw RunTimeError(errors::InvalidProcedureCall);
     return left(text.substr(advance(text, 0, start - 1)), count);
 }
 
 std::string_view trimSpaces(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
+    if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 

@@ -9,8 +9,11 @@ namespace tessaro {
 /// Texts are UTF-8 in memory; everything here counts characters (code points), not bytes. A byte
 /// that belongs to no character counts as one.
 
+/// What stands for a byte that belongs to no character.
+inline constexpr char32_t replacementCharacter = 0xFFFD;
+
 /// Reads the character at byte `position` and moves `position` behind it. An invalid byte gives
-/// U+FFFD and moves by one.
+/// the replacement character and moves by one.
 char32_t nextCharacter(std::string_view text, std::size_t& position);
 /// Takes any code up to U+1FFFFF; what is no character gives bytes that are no valid UTF-8.
 void appendCharacter(std::string& text, char32_t character);
@@ -27,13 +30,6 @@ std::string_view left(std::string_view text, std::size_t count);
 std::string_view right(std::string_view text, std::size_t count);
 /// `count` characters from the `start`th on, counted from 1. Raises error 5 for a start of 0.
 std::string_view mid(std::string_view text, std::size_t start, std::size_t count);
-
-/// One character's lower case (Latin, Greek and Cyrillic letters), for matching names.
-char32_t lowerCase(char32_t character);
-/// The same of each character.
-std::string lowerCase(std::string_view text);
-/// Whether two names are the same but for case.
-bool sameName(std::string_view one, std::string_view other);
 
 /// Cuts spaces (only spaces) at both ends.
 std::string_view trimSpaces(std::string_view text);

@@ -1,5 +1,6 @@
 #include "platform/text/wildcard.h"
 
+#include "platform/text/lettercase.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {

@@ -167,6 +167,47 @@ TEST(ProfileEdit, TheOtherBytesOfAMixedFileStay) {
               "\xEF\xBB\xBF[S]\na=\xE9\nk=\xC5\x81\n");
 }
 
+// The key's name and the value of `j` are UTF-8 by themselves, the value of the key is not, so that
+// all of it reads as code page text until that value goes.
+TEST(ProfileEdit, AMixedFileIsWidenedWhenItsLastCodePageLetterWouldTakeTheKeysNameAlong) {
+    const auto bytes = write("[s]\n\xC3\xA9=\xE9\nj=\xC3\xA9\n", "s", "Ã©", "1");
+    EXPECT_EQ(bytes,
+              "\xFF\xFE[\0s\0]\0\n\0\xC3\0\xA9\0=\0"
+              "1\0\n\0j\0=\0\xC3\0\xA9\0\n\0"s);
+    EXPECT_EQ(profileValue(*bytes, "s", "Ã©"), "1");
+    EXPECT_EQ(write(*bytes, "s", "Ã©", "1"), std::nullopt);
+}
+
+TEST(ProfileEdit, AMixedFileIsWidenedWhenASectionsNameWouldChange) {
+    const auto bytes = write("[\xC3\xA9]\nk=\xE9\n", "Ã©", "k", "1");
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(profileValue(*bytes, "Ã©", "k"), "1");
+    EXPECT_EQ(profileSections(*bytes), "Ã©\0"s);
+}
+
+TEST(ProfileEdit, AMixedFileIsWidenedWhenADeletedKeyWouldAppearAgain) {
+    const auto bytes = deleteKey("[s]\n\xE9=1\n\xC3\xA9=2\n", "s", "é");
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(profileValue(*bytes, "s", "é"), std::nullopt);
+    EXPECT_EQ(profileValue(*bytes, "s", "Ã©"), "2");
+}
+
+TEST(ProfileEdit, AMixedFileIsWidenedWhenADeletedSectionWouldAppearAgain) {
+    const auto bytes = deleteSection("[\xE9]\nk=1\n[\xC3\xA9]\nk=2\n", "é");
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(profileSections(*bytes), "Ã©\0"s);
+}
+
+TEST(ProfileEdit, AWidenedMixedFileShowsOnEveryLineWhatItShowedBefore) {
+    const std::string mixed = "[s]\na=\xE9\nb=\xC3\xA9\nc=\x80\x81\nd=\xC5\x81\n";
+    const std::string bytes = write(mixed, "s", "k", "Ł").value();
+    ASSERT_TRUE(bytes.starts_with("\xFF\xFE"));
+    for (const std::string key : {"a", "b", "c", "d"}) {
+        EXPECT_EQ(profileValue(bytes, "s", key), profileValue(mixed, "s", key)) << key;
+    }
+    EXPECT_EQ(profileValue(bytes, "s", "d"), "Å\u0081");
+}
+
 TEST(ProfileEdit, DamagedUtf16KeepsItsBytes) {
     EXPECT_EQ(write("\xFF\xFE[\0S\0]\0\n\0j\0=\0\x00\xD8\n\0k\0=\0v\0z"s, "S", "k", "w"),
               "\xFF\xFE[\0S\0]\0\n\0j\0=\0\x00\xD8\n\0k\0=\0w\0z"s);

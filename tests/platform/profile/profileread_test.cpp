@@ -159,12 +159,24 @@ TEST(ProfileRead, InAMixedFileEachByteIsALetterOfTheCodePage) {
     EXPECT_EQ(profileValue("[S]\na=\xE9\nb=\xC3\xA9\n", "S", "b"), "Ã©");
 }
 
+TEST(ProfileRead, AStrayByteBehindAUtf8MarkIsALetterOfTheCodePage) {
+    const std::string file = "\xEF\xBB\xBF[S]\n\xE9=1\nk=\x80\xC3\xA9\n";
+    EXPECT_EQ(profileValue(file, "S", "É"), "1");
+    EXPECT_EQ(profileValue(file, "S", "k"), "€é");
+    EXPECT_EQ(profileKeys(file, "S"), "é\0k\0"s);
+}
+
+TEST(ProfileRead, AFileThatIsOnlyAMarkIsEmpty) {
+    for (const std::string mark : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
+        EXPECT_EQ(profileSections(mark), "");
+        EXPECT_EQ(profileValue(mark, "", ""), Found());
+    }
+}
+
 TEST(ProfileReadDamaged, AnEmptyFileHoldsNothing) {
     EXPECT_EQ(profileValue("", "S", "k"), Found());
     EXPECT_EQ(profileSections(""), "");
     EXPECT_EQ(profileKeys("", "S"), Found());
-    EXPECT_EQ(profileSections("\xEF\xBB\xBF"), "");
-    EXPECT_EQ(profileSections("\xFF\xFE"), "");
 }
 
 TEST(ProfileReadDamaged, NulsAreOrdinaryBytes) {

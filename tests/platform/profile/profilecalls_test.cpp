@@ -1,7 +1,8 @@
-#include "platform/profile/profile.h"
+#include "platform/profile/profilecalls.h"
 
 #include <gtest/gtest.h>
 
+#include "platform/text/encoding.h"
 #include "support/testworld.h"
 
 namespace tessaro {
@@ -216,12 +217,68 @@ TEST_F(Profile, ALineBreakInsideIsRefused) {
     EXPECT_EQ(content(), "[S]\nk=v\n");
 }
 
+TEST_F(Profile, ANameThatCouldNotBeReadBackIsRefused) {
+    file("[S]\nk=v\n");
+    for (const std::string key : {"a=b", "=", ";k", "[k", "[k]", "\tk", "k\t", "\vk", " ;k "}) {
+        EXPECT_FALSE(put("S", key, "w")) << key;
+        EXPECT_FALSE(put("S", key, none)) << key;
+    }
+    for (const std::string section : {"S]", "a]b", "]", "\tS", "S\v"}) {
+        EXPECT_FALSE(put(section, "k", "w")) << section;
+        EXPECT_FALSE(put(section, "k", none)) << section;
+        EXPECT_FALSE(put(section, none, none)) << section;
+    }
+    EXPECT_EQ(content(), "[S]\nk=v\n");
+}
+
+TEST_F(Profile, OddNamesThatCanBeReadBackAreWritten) {
+    for (const std::string key : {"a[0]", "a;b", "#k", "", "k]", "a b", "a\tb"}) {
+        EXPECT_TRUE(put("S", key, "<" + key + ">")) << key;
+        EXPECT_EQ(get("S", key), "<" + key + ">");
+    }
+    for (const std::string section : {"", ";S", "a=b", "[S", "a b", "C:\\game\\vornx.ini"}) {
+        EXPECT_TRUE(put(section, "k", "<" + section + ">")) << section;
+        EXPECT_EQ(get(section, "k"), "<" + section + ">");
+    }
+}
+
 TEST_F(Profile, ANulInsideIsRefused) {
     file("[S]\nk=v\n");
     EXPECT_FALSE(put("S\0"s, "k", "w"));
     EXPECT_FALSE(put("S", "k\0"s, "w"));
     EXPECT_FALSE(put("S", "k", "w\0"s));
     EXPECT_EQ(content(), "[S]\nk=v\n");
+}
+
+TEST_F(Profile, AStrayByteInAnArgumentIsALetterOfTheCodePage) {
+    for (const std::string& bytes :
+         {"[s]\n"s, "[s]\nj=\xC3\xA9\n"s, "\xEF\xBB\xBF[s]\n"s, "\xFF\xFE[\0s\0]\0\n\0"s}) {
+        file(bytes);
+        EXPECT_TRUE(put("s", "\xE9", "\x80"));
+        const std::string written = content();
+        EXPECT_EQ(get("s", "\xE9"), "€") << testing::PrintToString(bytes);
+        EXPECT_EQ(get("s", "é"), "€") << testing::PrintToString(bytes);
+        EXPECT_TRUE(put("s", "\xE9", "\x80"));
+        EXPECT_EQ(content(), written);
+    }
+    file("[\xE9]\nk=v\n");
+    EXPECT_EQ(get("\xE9", "k"), "v");
+    EXPECT_EQ(get("\xE9", none), "k\0"s);
+}
+
+TEST_F(Profile, TwoHalvesOfAPairInAnArgumentAreOneCharacter) {
+    EXPECT_TRUE(put("s", "k", "\xED\xA0\xBC\xED\xBE\xAE"));
+    EXPECT_EQ(get("s", "k"), "\xF0\x9F\x8E\xAE");
+}
+
+TEST_F(Profile, TheOddByteOfAnotherFileDoesNotTravelWithAText) {
+    const std::string odd = decodeText("\xFF\xFEv\0z"s, Encoding::Utf16LittleEndian);
+    file("[s]\n");
+    EXPECT_TRUE(put("s", "k", odd + odd));
+    EXPECT_EQ(content(), "[s]\nk=vv\n");
+    file("\xFF\xFE[\0s\0]\0\n\0"s);
+    EXPECT_TRUE(put("s", "k", odd + odd));
+    EXPECT_EQ(content(), "\xFF\xFE[\0s\0]\0\n\0k\0=\0v\0v\0\n\0"s);
 }
 
 TEST_F(Profile, AFileIsFoundWithoutRegardToCase) {
