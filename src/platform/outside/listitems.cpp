@@ -96,6 +96,13 @@ void ListItems::setSubItem(std::size_t index, std::string_view columnKey, std::s
     setSubItem(index, static_cast<std::size_t>(column - columns_.begin()), std::move(text));
 }
 
+void ListItems::addSubItem(std::size_t index, std::size_t column, std::string text) {
+    std::vector<std::string>& subItems = at(index).subItems;
+    requireIndex(column, subItems.size() + 1);
+    subItems.insert(subItems.begin() + static_cast<std::ptrdiff_t>(column - 1), std::move(text));
+    notify();
+}
+
 void ListItems::setText(std::size_t index, std::string text) {
     at(index).text = std::move(text);
     notify();
