@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -70,12 +71,15 @@ class ListItems {
     std::function<void()> changed;
 
   private:
+    // Rows stay where they are in memory, so that one can be put between thousands at little cost.
+    using Rows = std::vector<std::unique_ptr<ListItem>>;
+
     ListItem& at(std::size_t index);
     std::size_t placeOf(const ListItem& row) const;
     void notify() const;
 
     std::vector<ListColumn> columns_;
-    std::vector<ListItem> rows_;
+    Rows rows_;
     std::size_t picked_ = 0;
     int sortKey_ = 0;
     int sortOrder_ = 0;
