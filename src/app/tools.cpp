@@ -8,6 +8,8 @@
 #include "core/MainFrm.h"
 #include "core/splash.h"
 #include "prefs/Prefs.h"
+#include "servers/iplist.h"
+#include "servers/listeditmenu.h"
 #include "shell/Skinz.h"
 #include "shell/menus.h"
 
@@ -24,6 +26,8 @@ Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
     forms.add<comp2>(program);
     forms.add<decomp>(program);
     forms.add<decomp2>(program);
+    forms.add<iplist>(program);
+    forms.add<listeditmenu>();
 }
 
 void Tools::buildMenus(QMainWindow& window) {
@@ -35,6 +39,8 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnumapcompress", [this] { showCompressor(forms_); }},
                             {"mnurcompress", [this] { showCompressor(forms_); }},
                             {"mnudecomp", [this] { forms_.show<decomp>(); }},
+                            {"mnuipaddr", [this] { forms_.show<iplist>(); }},
+                            {"mnuripaddr", [this] { forms_.show<iplist>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
                             {"mnuexit", exitProgram},

@@ -1,6 +1,8 @@
 #include "kit/controls/listview.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 
 namespace tessaro {
@@ -51,14 +53,22 @@ void ListView::follow() {
     highlightItems();
 }
 
-void ListView::highlightItems() {
-    QItemSelection highlighted;
-    const int lastColumn = model_->columnCount() - 1;
-    for (int row = 0; row < model_->rowCount(); ++row) {
-        if (!items_->item(static_cast<std::size_t>(row) + 1).selected) continue;
-        highlighted.select(model_->index(row, 0), model_->index(row, lastColumn));
+/// Neighbours as one range: Qt compares each range with each other one.
+QItemSelection ListView::highlightOfItems() const {
+    QItemSelection highlight;
+    const int rows = model_->rowCount();
+    for (int row = 0; row < rows; ++row) {
+        const int first = row;
+        while (row < rows && items_->item(static_cast<std::size_t>(row) + 1).selected) ++row;
+        if (row > first)
+            highlight.select(model_->index(first, 0),
+                             model_->index(row - 1, model_->columnCount() - 1));
     }
-    selectionModel()->select(highlighted, QItemSelectionModel::ClearAndSelect);
+    return highlight;
+}
+
+void ListView::highlightItems() {
+    selectionModel()->select(highlightOfItems(), QItemSelectionModel::ClearAndSelect);
     const int current = static_cast<int>(items_->selectedItem()) - 1;
     selectionModel()->setCurrentIndex(model_->index(current, 0), QItemSelectionModel::NoUpdate);
 }
@@ -73,14 +83,30 @@ void ListView::currentChanged(const QModelIndex& current, const QModelIndex& pre
     takeFromUser();
 }
 
+void ListView::mousePressEvent(QMouseEvent* event) {
+    QTreeView::mousePressEvent(event);  // picks the row
+    if (event->button() == Qt::RightButton) Q_EMIT menuWanted(event->globalPosition().toPoint());
+}
+
+/// By the mouse it comes with the press on some systems and with the release on others.
+void ListView::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Mouse) return;
+    const QRect row = visualRect(currentIndex()).intersected(viewport()->rect());
+    const QPoint place = row.isEmpty() ? QPoint() : row.bottomLeft();
+    Q_EMIT menuWanted(viewport()->mapToGlobal(place));
+}
+
 void ListView::takeFromUser() {
     if (following_ || items_ == nullptr) return;
     if (currentIndex().isValid()) items_->pick(static_cast<std::size_t>(currentIndex().row()) + 1);
-    for (int row = 0; row < model_->rowCount(); ++row) {
-        const auto index = static_cast<std::size_t>(row) + 1;
-        const bool highlighted = selectionModel()->isRowSelected(row, {});
-        if (items_->item(index).selected != highlighted) items_->setSelected(index, highlighted);
-    }
+    // Asking the selection for each row would cost milliseconds at each key in a long list.
+    std::vector<bool> highlighted(items_->count());
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        std::fill(highlighted.begin() + range.top(), highlighted.begin() + range.bottom() + 1,
+                  true);
+    for (std::size_t row = 0; row < highlighted.size(); ++row)
+        if (items_->item(row + 1).selected != highlighted[row])
+            items_->setSelected(row + 1, highlighted[row]);
 }
 
 void setColumnWidths(ListView& list, std::initializer_list<int> letters) {

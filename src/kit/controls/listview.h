@@ -30,15 +30,21 @@ class ListView : public QTreeView {
   Q_SIGNALS:
     /// The user clicked a column's head; columns count from 1.
     void columnClicked(int column);
+    /// The user pressed the right mouse button, on a row or beside the rows, or the menu key;
+    /// `place` is where on the screen a menu belongs.
+    void menuWanted(const QPoint& place);
 
   protected:
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     void itemsChanged();
     void follow();
+    QItemSelection highlightOfItems() const;
     void highlightItems();
     void takeFromUser();
 

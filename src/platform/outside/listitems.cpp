@@ -25,14 +25,6 @@ struct Keyed {
     std::size_t index;
 };
 
-std::vector<Keyed> keysOf(const std::vector<ListItem>& rows, int column) {
-    std::vector<Keyed> keys;
-    keys.reserve(rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        keys.push_back({lowerCase(textOf(rows[i], column)), i + 1});
-    return keys;
-}
-
 /// Rows of equal text keep the order they had.
 void sortKeys(std::vector<Keyed>& keys, bool descending) {
     std::stable_sort(keys.begin(), keys.end(), [descending](const Keyed& a, const Keyed& b) {
@@ -46,12 +38,12 @@ ListItems::ListItems(std::vector<ListColumn> columns) : columns_(std::move(colum
 
 const ListItem& ListItems::item(std::size_t index) const {
     requireIndex(index, count());
-    return rows_[index - 1];
+    return *rows_[index - 1];
 }
 
 ListItem& ListItems::at(std::size_t index) {
     requireIndex(index, count());
-    return rows_[index - 1];
+    return *rows_[index - 1];
 }
 
 void ListItems::notify() const {
@@ -60,8 +52,8 @@ void ListItems::notify() const {
 
 std::size_t ListItems::add(std::size_t index, std::string text) {
     requireIndex(index, count() + 1);
-    ListItem row{std::move(text), {}, false};
-    if (sorted_) index = placeOf(row);
+    auto row = std::make_unique<ListItem>(ListItem{std::move(text), {}, false});
+    if (sorted_) index = placeOf(*row);
     rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(index - 1), std::move(row));
     if (picked_ >= index) ++picked_;
     notify();
@@ -70,8 +62,8 @@ std::size_t ListItems::add(std::size_t index, std::string text) {
 
 std::size_t ListItems::placeOf(const ListItem& row) const {
     const std::string key = lowerCase(textOf(row, sortKey_));
-    const auto goesBefore = [this](const std::string& added, const ListItem& other) {
-        const std::string text = lowerCase(textOf(other, sortKey_));
+    const auto goesBefore = [this](const std::string& added, const auto& other) {
+        const std::string text = lowerCase(textOf(*other, sortKey_));
         return sortOrder_ == 0 ? added < text : text < added;
     };
     const auto place = std::upper_bound(rows_.begin(), rows_.end(), key, goesBefore);
@@ -94,6 +86,13 @@ void ListItems::setSubItem(std::size_t index, std::string_view columnKey, std::s
     if (column == columns_.begin() || column == columns_.end())
         throw RunTimeError(errors::IndexOutOfBounds, std::string(columnKey));
     setSubItem(index, static_cast<std::size_t>(column - columns_.begin()), std::move(text));
+}
+
+void ListItems::addSubItem(std::size_t index, std::size_t column, std::string text) {
+    std::vector<std::string>& subItems = at(index).subItems;
+    requireIndex(column, subItems.size() + 1);
+    subItems.insert(subItems.begin() + static_cast<std::ptrdiff_t>(column - 1), std::move(text));
+    notify();
 }
 
 void ListItems::setText(std::size_t index, std::string text) {
@@ -127,8 +126,8 @@ std::size_t ListItems::selectedItem() const {
 
 void ListItems::pick(std::size_t index) {
     requireIndex(index, count());
-    for (ListItem& row : rows_) row.selected = false;
-    rows_[index - 1].selected = true;
+    for (const auto& row : rows_) row->selected = false;
+    rows_[index - 1]->selected = true;
     picked_ = index;
     notify();
 }
@@ -137,9 +136,11 @@ void ListItems::sort(int key, int order) {
     sortKey_ = key;
     sortOrder_ = order;
     sorted_ = true;
-    std::vector<Keyed> keys = keysOf(rows_, key);
+    std::vector<Keyed> keys;
+    keys.reserve(count());
+    for (const auto& row : rows_) keys.push_back({lowerCase(textOf(*row, key)), keys.size() + 1});
     sortKeys(keys, order != 0);
-    std::vector<ListItem> sortedRows;
+    Rows sortedRows;
     sortedRows.reserve(rows_.size());
     std::size_t picked = 0;
     for (const Keyed& from : keys) {

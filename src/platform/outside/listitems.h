@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,6 +42,9 @@ class ListItems {
     void setSubItem(std::size_t index, std::size_t column, std::string text);
     /// Sub-item of the column with that key. Raises 35600 if there is none.
     void setSubItem(std::size_t index, std::string_view columnKey, std::string text);
+    /// Inserts a sub-item so that it stands under that column; those from there on move one column
+    /// on. Raises 35600 for a column behind the first free one.
+    void addSubItem(std::size_t index, std::size_t column, std::string text);
     void setText(std::size_t index, std::string text);
     void remove(std::size_t index);
     void clear();
@@ -60,17 +64,22 @@ class ListItems {
     void setSortKey(int key) { sort(key, sortOrder_); }
     void setSortOrder(int order) { sortOrder_ = order; }
     bool sorted() const { return sorted_; }
+    /// The rows keep their places; those added later go where they are added.
+    void stopSorting() { sorted_ = false; }
 
     /// Called after each change, so that a view can follow.
     std::function<void()> changed;
 
   private:
+    // Rows stay where they are in memory, so that one can be put between thousands at little cost.
+    using Rows = std::vector<std::unique_ptr<ListItem>>;
+
     ListItem& at(std::size_t index);
     std::size_t placeOf(const ListItem& row) const;
     void notify() const;
 
     std::vector<ListColumn> columns_;
-    std::vector<ListItem> rows_;
+    Rows rows_;
     std::size_t picked_ = 0;
     int sortKey_ = 0;
     int sortOrder_ = 0;

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QTest>
@@ -98,6 +99,27 @@ TEST_F(ListViews, SeveralRowsCanBeHighlightedWhereThatIsAllowed) {
     EXPECT_EQ(rows_.selectedItem(), 3u);
 }
 
+TEST_F(ListViews, NeighboursAreHighlightedAsOneRange) {
+    view_.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    for (int i = 0; i < 10; ++i) rows_.add("more");
+    click(4);
+    QTest::keyClick(&view_, Qt::Key_A, Qt::ControlModifier);
+    rows_.setSelected(3, false);
+    serveEvents();
+    EXPECT_EQ(view_.selectionModel()->selection().size(), 2);
+    EXPECT_THAT(highlightedRows(), ElementsAre(0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12));
+    EXPECT_THAT(selectedItems(), ElementsAre(1u, 2u, 4u, 5u, 6u, 7u, 8u, 9u, 10u, 11u, 12u, 13u));
+}
+
+TEST_F(ListViews, ARangePickedWithShiftIsTakenOverWhole) {
+    view_.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    click(0);
+    click(1, Qt::ShiftModifier);
+    EXPECT_THAT(selectedItems(), ElementsAre(1u, 2u));
+    click(2);
+    EXPECT_THAT(selectedItems(), ElementsAre(3u));
+}
+
 TEST_F(ListViews, TheSelectedItemMayStandWithoutHighlight) {
     view_.setSelectionMode(QAbstractItemView::ExtendedSelection);
     click(1);
@@ -140,6 +162,73 @@ TEST_F(ListViews, AClickOnAColumnsHeadIsReportedByItsNumber) {
                       QPoint(header->sectionViewportPosition(1) + 5, header->height() / 2));
     ASSERT_EQ(clicks.count(), 1);
     EXPECT_EQ(clicks[0][0].toInt(), 2);
+}
+
+/// Where on the screen menus were asked for.
+class MenusOfListViews : public ListViews {
+  protected:
+    QSignalSpy menus_{&view_, &ListView::menuWanted};
+
+    QPoint middleOf(int row) const {
+        return view_.visualRect(view_.model()->index(row, 0)).center();
+    }
+    QPoint place(int menu) const { return menus_[menu][0].toPoint(); }
+    /// What the system makes of the key for the control with the focus.
+    void pressMenuKey() {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
+        QCoreApplication::sendEvent(&view_, &event);
+    }
+    bool contains(const QRect& partOfViewport, const QPoint& onScreen) const {
+        return partOfViewport.contains(view_.viewport()->mapFromGlobal(onScreen));
+    }
+};
+
+TEST_F(MenusOfListViews, ThePressOfTheRightButtonPicksTheRowAndAsksForAMenuThere) {
+    QTest::mousePress(view_.viewport(), Qt::RightButton, {}, middleOf(1));
+    ASSERT_EQ(menus_.count(), 1);
+    EXPECT_EQ(place(0), view_.viewport()->mapToGlobal(middleOf(1)));
+    EXPECT_THAT(selectedItems(), ElementsAre(2u));
+    QTest::mouseRelease(view_.viewport(), Qt::RightButton, {}, middleOf(1));
+    EXPECT_EQ(menus_.count(), 1);
+}
+
+TEST_F(MenusOfListViews, ARightPressBesideTheRowsAsksForAMenuToo) {
+    QTest::mousePress(view_.viewport(), Qt::RightButton, {}, QPoint(10, 200));
+    EXPECT_EQ(menus_.count(), 1);
+    EXPECT_THAT(selectedItems(), IsEmpty());
+}
+
+TEST_F(MenusOfListViews, OtherButtonsAskForNone) {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton, Qt::BackButton})
+        QTest::mouseClick(view_.viewport(), button, {}, middleOf(1));
+    EXPECT_EQ(menus_.count(), 0);
+}
+
+TEST_F(MenusOfListViews, WhatTheSystemMakesOfTheButtonAsksForNoSecondOne) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, middleOf(1), QPoint(1, 1));
+    QCoreApplication::sendEvent(view_.viewport(), &event);
+    EXPECT_EQ(menus_.count(), 0);
+}
+
+TEST_F(MenusOfListViews, TheMenuKeyAsksForOneAtTheCurrentRow) {
+    click(2);
+    pressMenuKey();
+    ASSERT_EQ(menus_.count(), 1);
+    EXPECT_TRUE(contains(view_.visualRect(view_.model()->index(2, 0)), place(0)));
+    EXPECT_THAT(selectedItems(), ElementsAre(3u));
+}
+
+TEST_F(MenusOfListViews, TheMenuKeyAsksForOneInTheListIfItsRowIsOutOfSightOrThereIsNone) {
+    for (int i = 0; i < 100; ++i) rows_.add("more");
+    click(0);
+    view_.scrollToBottom();
+    pressMenuKey();
+    rows_.clear();
+    serveEvents();
+    pressMenuKey();
+    ASSERT_EQ(menus_.count(), 2);
+    EXPECT_TRUE(contains(view_.viewport()->rect(), place(0)));
+    EXPECT_TRUE(contains(view_.viewport()->rect(), place(1)));
 }
 
 TEST_F(ListViews, ARowIsFoundUnderAPoint) {

@@ -55,6 +55,23 @@ TEST(ListItems, SubItemsAreSetByColumnOrByItsKey) {
     EXPECT_THAT(items.item(1).subItems, ElementsAre("10.0.0.1", "7777"));
 }
 
+TEST(ListItems, ASubItemAddedAtATakenPlacePushesTheOthersOn) {
+    ListItems items = filled({"other", "server"});
+    items.addSubItem(2, 1, "7777");
+    items.addSubItem(2, 1, "10.0.0.1");
+    items.addSubItem(2, 3, "last");
+    EXPECT_THAT(items.item(2).subItems, ElementsAre("10.0.0.1", "7777", "last"));
+    EXPECT_TRUE(items.item(1).subItems.empty());
+}
+
+TEST(ListItems, ASubItemIsNotAddedWithAGapBeforeIt) {
+    ListItems items = filled({"server"});
+    EXPECT_EQ(errorOf([&] { items.addSubItem(1, 2, "7777"); }), 35600);
+    EXPECT_EQ(errorOf([&] { items.addSubItem(1, 0, "7777"); }), 35600);
+    EXPECT_EQ(errorOf([&] { items.addSubItem(2, 1, "7777"); }), 35600);
+    EXPECT_TRUE(items.item(1).subItems.empty());
+}
+
 TEST(ListItems, AColumnKeyThatIsNotThereRaises35600) {
     ListItems items = filled({"server"});
     EXPECT_EQ(errorOf([&] { items.setSubItem(1, "ping", "5"); }), 35600);
@@ -154,6 +171,16 @@ TEST(ListItems, RowsAddedToASortedListGoToTheirPlaces) {
     EXPECT_THAT(texts(items), ElementsAre("e", "d", "c", "C", "b"));
 }
 
+TEST(ListItems, RowsAddedAfterTheSortingStoppedStayWhereTheyAreAdded) {
+    ListItems items = filled({"d", "b"});
+    items.sort(0, 0);
+    items.stopSorting();
+    EXPECT_FALSE(items.sorted());
+    EXPECT_EQ(items.add("c"), 3u);
+    EXPECT_EQ(items.add(1, "e"), 1u);
+    EXPECT_THAT(texts(items), ElementsAre("e", "b", "d", "c"));
+}
+
 TEST(ListItems, EqualRowsKeepTheirOrderInBothDirections) {
     ListItems items = filled({"same", "SAME"});
     items.sort(0, 1);
@@ -177,12 +204,13 @@ TEST(ListItems, EveryChangeIsAnnounced) {
     items.add("b");
     items.setText(1, "x");
     items.setSubItem(1, 1, "y");
+    items.addSubItem(1, 1, "z");
     items.setSelected(1, true);
     items.pick(2);
     items.sort(0, 1);
     items.remove(1);
     items.clear();
-    EXPECT_EQ(changes, 8);
+    EXPECT_EQ(changes, 9);
 }
 
 }  // namespace
