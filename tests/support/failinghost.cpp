@@ -1,5 +1,7 @@
 #include "support/failinghost.h"
 
+#include <algorithm>
+
 #include "platform/runtime/runtimeerror.h"
 
 namespace tessaro::test {
@@ -10,25 +12,40 @@ bool contains(const HostPath& path, const std::string& part) {
     return path.string().find(part) != std::string::npos;
 }
 
-class LimitedWriter : public HostWriter {
+}  // namespace
+
+// Writes while there is space, and closes while it is let.
+class FailingHost::Writer : public HostWriter {
   public:
-    LimitedWriter(std::unique_ptr<HostWriter> real, std::optional<std::size_t>& space)
-        : real_(std::move(real)), space_(space) {}
+    // `covered` bytes have their space already.
+    Writer(FailingHost& host, HostPath file, std::unique_ptr<HostWriter> real, std::size_t covered)
+        : host_(host), file_(std::move(file)), real_(std::move(real)), covered_(covered) {}
 
     void write(std::string_view bytes) override {
-        const std::string_view fitting = bytes.substr(0, space_.value_or(bytes.size()));
+        const std::size_t free = std::min(covered_, bytes.size());
+        const std::size_t room = host_.space_ ? free + *host_.space_ : bytes.size();
+        const std::string_view fitting = bytes.substr(0, room);
         real_->write(fitting);
-        if (space_) *space_ -= fitting.size();
+        covered_ -= free;
+        if (host_.space_) *host_.space_ -= fitting.size() - free;
         if (fitting.size() < bytes.size()) throw RunTimeError(errors::DiskFull);
     }
-    void close() override { real_->close(); }
+    void copy(const HostPath& from) override {
+        host_.pass(Call::Copy, file_);
+        host_.space_ ? write(host_.real_.read(from)) : real_->copy(from);
+    }
+    bool alike() const override { return real_->alike(); }
+    void close() override {
+        host_.pass(Call::Close, file_);
+        real_->close();
+    }
 
   private:
+    FailingHost& host_;
+    HostPath file_;
     std::unique_ptr<HostWriter> real_;
-    std::optional<std::size_t>& space_;
+    std::size_t covered_;
 };
-
-}  // namespace
 
 void FailingHost::refuse(Call call, int number, std::string part) {
     refusals_[call] = {number, std::move(part)};
@@ -42,12 +59,11 @@ void FailingHost::relent() {
 }
 
 int FailingHost::count(Call call) const {
-    const auto found = counts_.find(call);
-    return found == counts_.end() ? 0 : found->second;
+    return static_cast<int>(std::count(calls_.begin(), calls_.end(), call));
 }
 
 void FailingHost::pass(Call call, const HostPath& path) {
-    ++counts_[call];
+    calls_.push_back(call);
     const auto found = refusals_.find(call);
     if (found != refusals_.end() && contains(path, found->second.part)) {
         throw RunTimeError(found->second.number, path.string());
@@ -78,6 +94,11 @@ bool FailingHost::writable(const HostPath& path) {
     return !(protected_ && contains(path, *protected_)) && real_.writable(path);
 }
 
+bool FailingHost::settles(const HostPath& file, std::chrono::milliseconds patience) {
+    pass(Call::Settle, file);
+    return real_.settles(file, patience);
+}
+
 std::string FailingHost::read(const HostPath& file) {
     pass(Call::Read, file);
     return real_.read(file);
@@ -85,18 +106,23 @@ std::string FailingHost::read(const HostPath& file) {
 
 std::unique_ptr<HostWriter> FailingHost::create(const HostPath& file, const HostPath& like) {
     pass(Call::Create, file);
-    return std::make_unique<LimitedWriter>(real_.create(file, like), space_);
+    return std::make_unique<Writer>(*this, file, real_.create(file, like), 0);
+}
+
+std::unique_ptr<HostWriter> FailingHost::createCopy(const HostPath& file, const HostPath& from) {
+    pass(Call::Create, file);
+    return std::make_unique<Writer>(*this, file, real_.createCopy(file, from), 0);
+}
+
+std::unique_ptr<HostWriter> FailingHost::overwrite(const HostPath& file) {
+    pass(Call::Overwrite, file);
+    const std::size_t size = real_.status(file)->size;
+    return std::make_unique<Writer>(*this, file, real_.overwrite(file), size);
 }
 
 void FailingHost::touch(const HostPath& file) {
     pass(Call::Touch, file);
     real_.touch(file);
-}
-
-void FailingHost::copy(const HostPath& from, const HostPath& to, const HostPath& like) {
-    pass(Call::Copy, to);
-    if (!space_) return real_.copy(from, to, like);
-    LimitedWriter(real_.create(to, like), space_).write(real_.read(from));
 }
 
 void FailingHost::rename(const HostPath& from, const HostPath& to) {
@@ -117,6 +143,10 @@ void FailingHost::removeFile(const HostPath& file) {
 void FailingHost::makeFolder(const HostPath& folder) {
     pass(Call::MakeFolder, folder);
     real_.makeFolder(folder);
+}
+
+HostPath FailingHost::keepingFolder() {
+    return real_.keepingFolder();
 }
 
 HostPath FailingHost::target(const HostPath& path) {

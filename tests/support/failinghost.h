@@ -13,10 +13,13 @@ enum class Call {
     Status,
     List,
     Lock,
+    Settle,
     Read,
     Create,
+    Overwrite,
     Touch,
     Copy,
+    Close,
     Rename,
     Flush,
     RemoveFile,
@@ -31,7 +34,8 @@ class FailingHost : public Host {
 
     /// From now on this call raises `number` for paths that contain `part`.
     void refuse(Call call, int number, std::string part = {});
-    /// So many bytes can still be written; what goes beyond raises 61 and leaves a fragment.
+    /// So many bytes can still be written; what goes beyond raises 61. Bytes that are written over
+    /// those of an old file cost nothing.
     void setDiskSpace(std::size_t bytes) { space_ = bytes; }
     /// Files whose path contains `part` cannot be written.
     void protect(std::string part) { protected_ = std::move(part); }
@@ -41,25 +45,31 @@ class FailingHost : public Host {
     void relent();
     /// How often a call was made.
     int count(Call call) const;
+    /// All calls that were made, in their order.
+    const std::vector<Call>& calls() const { return calls_; }
 
     std::optional<HostStatus> status(const HostPath& path) override;
     std::vector<std::string> list(const HostPath& folder) override;
     std::unique_ptr<FolderLock> lock(const HostPath& folder,
                                      std::chrono::milliseconds patience) override;
     bool writable(const HostPath& path) override;
+    bool settles(const HostPath& file, std::chrono::milliseconds patience) override;
     std::string read(const HostPath& file) override;
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override;
+    std::unique_ptr<HostWriter> createCopy(const HostPath& file, const HostPath& from) override;
+    std::unique_ptr<HostWriter> overwrite(const HostPath& file) override;
     void touch(const HostPath& file) override;
-    void copy(const HostPath& from, const HostPath& to, const HostPath& like) override;
     void rename(const HostPath& from, const HostPath& to) override;
     void flushFolder(const HostPath& folder) override;
     void removeFile(const HostPath& file) override;
     void makeFolder(const HostPath& folder) override;
+    HostPath keepingFolder() override;
     HostPath target(const HostPath& path) override;
     HostPath currentFolder() override;
     void changeFolder(const HostPath& folder) override;
 
   private:
+    class Writer;
     struct Refusal {
         int number;
         std::string part;
@@ -68,7 +78,7 @@ class FailingHost : public Host {
 
     Host& real_;
     std::map<Call, Refusal> refusals_;
-    std::map<Call, int> counts_;
+    std::vector<Call> calls_;
     std::optional<std::size_t> space_;
     std::optional<std::string> protected_;
     std::optional<HostPath::string_type> vanished_;

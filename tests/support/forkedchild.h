@@ -1,5 +1,6 @@
 #pragma once
 
+#include <grp.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -51,5 +52,14 @@ class ForkedChild {
     pid_t pid_;
     int code_ = -1;
 };
+
+/// For a child of root: goes on as a user that owns nothing and is in no group. Others stay who
+/// they are.
+inline bool becomeOrdinaryUser() {
+    constexpr uid_t stranger = 4321;
+    return ::geteuid() != 0 ||
+           (::setgroups(0, nullptr) == 0 && ::setresgid(stranger, stranger, stranger) == 0 &&
+            ::setresuid(stranger, stranger, stranger) == 0);
+}
 
 }  // namespace tessaro::test

@@ -29,15 +29,23 @@ struct HostStatus {
     bool hidden = false;
     bool system = false;
     std::uintmax_t size = 0;
+    std::uintmax_t names = 1;  ///< that a file has, this one included: its hard links
     FolderStamp stamp;
 };
 
-/// A new file under way. Its end without `close` leaves the file as far as it was written.
+/// The contents of a file on their way to the disk: of a new file, or of an old one, whose bytes
+/// are written over from the first on. A new file that ends without `close` leaves nothing behind.
 class HostWriter {
   public:
     virtual ~HostWriter() = default;
     virtual void write(std::string_view bytes) = 0;
-    /// Pushes what was written to the disk, and closes. Nothing may be written afterwards.
+    /// Writes all of another file. The system moves the bytes where it can.
+    virtual void copy(const HostPath& from) = 0;
+    /// Whether a new file has the owner, the permissions and the access list of the one that it was
+    /// made like.
+    virtual bool alike() const = 0;
+    /// Pushes what was written to the disk and ends the file there. A new file has its name from
+    /// here on, and where the system can do that not before, so that no kill leaves half of one.
     virtual void close() = 0;
 };
 
@@ -76,19 +84,26 @@ class Host {
     /// Whether this is a file (no folder, no device) that its flags and the system let us write.
     virtual bool writable(const HostPath& path) = 0;
     virtual std::string read(const HostPath& file) = 0;
-    /// Creates a file that must not exist yet, with the permissions of `like` if that exists.
+    /// Waits until no other program has the file open for writing, as far as the system tells.
+    /// False if one still has at the end of `patience`.
+    virtual bool settles(const HostPath& file, std::chrono::milliseconds patience) = 0;
+    /// A new file, under a name that must be free (58). If there is a file `like`, which it is to
+    /// replace, it is made like that one, never more open.
     virtual std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) = 0;
+    /// A new file, under a name that must be free (58), with owner and permissions of `from`.
+    virtual std::unique_ptr<HostWriter> createCopy(const HostPath& file, const HostPath& from) = 0;
+    /// Writes over a file that is there, which stays what it is.
+    virtual std::unique_ptr<HostWriter> overwrite(const HostPath& file) = 0;
     /// Opens for appending and closes: creates an empty file, or changes nothing in one.
     virtual void touch(const HostPath& file) = 0;
-    /// Copies contents into `to`, which must not exist yet, with the permissions of `like` if that
-    /// exists, else with those of `from`.
-    virtual void copy(const HostPath& from, const HostPath& to, const HostPath& like) = 0;
     /// Renames over what is there.
     virtual void rename(const HostPath& from, const HostPath& to) = 0;
     /// Pushes the names in a folder to the disk, where the file system can do that.
     virtual void flushFolder(const HostPath& folder) = 0;
     virtual void removeFile(const HostPath& file) = 0;
     virtual void makeFolder(const HostPath& folder) = 0;
+    /// A folder for what must not be lost: everybody may write there, and it outlives a restart.
+    virtual HostPath keepingFolder() = 0;
     /// The file behind a link (any number of steps), or the path itself.
     virtual HostPath target(const HostPath& path) = 0;
 

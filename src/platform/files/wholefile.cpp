@@ -1,3 +1,26 @@
+// How a file is replaced.
+//
+// The new bytes go into a new file in the same folder, made like the old one and pushed to the
+// disk. Where the system can do that it has no name until then. A rename puts it into the place of
+// the old file: at no moment is there half of one, for a reader, after a kill or a power cut.
+//
+// But a rename puts another file into the place. A second name of the old one would be left with
+// the old bytes; and where the new one could not be made like the old one, where files cannot come
+// into being beside it or the system holds on to the old one (a folder that only others may write,
+// a file mounted by itself), it cannot be done. There the new bytes are written over the old ones,
+// after a copy of the old file was made elsewhere. A failure puts the copy back; after a kill it
+// still lies there.
+//
+// A change of what a file holds stands between the reading and the rename, and others write too:
+//
+//     ours     takes the folder's lock, reads, changes, writes beside, looks again, renames
+//     another  opens the file, empties it, writes a part, writes the rest, closes it
+//
+// Programs of ours wait for the lock, so theirs is the whole row. What another one does between our
+// reading and our last look shows there, and we begin again. What it is doing while we read, a file
+// emptied or half written, would look the same at both ends of our row if it takes its time; but
+// then it has the file open for writing, and the system tells that.
+
 #include "platform/files/wholefile.h"
 
 #include <chrono>
@@ -13,17 +36,62 @@ namespace tessaro {
 namespace {
 
 constexpr int mostTries = 100;
-// How long to wait for another program of ours. Past that it hangs, and the look before the rename
-// has to do.
-constexpr std::chrono::seconds patience{2};
+// How long to wait for another program of ours. Past that it hangs, and the last look has to do.
+constexpr std::chrono::milliseconds turnPatience{2000};
+// How long to wait for another program that has the file open.
+constexpr std::chrono::milliseconds writerPatience{500};
+constexpr std::chrono::milliseconds noPatience{0};
 
-// A name that no listing of the program shows. Chance keeps it apart from what a killed process
-// left; in the cache folder the game clears away *.tmp by itself.
-std::string temporaryName() {
+using Fill = std::function<void(HostWriter&)>;
+using Question = std::function<bool()>;
+
+// A file, and what is to take its place.
+struct Replacement {
+    Host& host;
+    HostPath target;
+    bool alone;        // the folder is locked
+    HostPath copied;   // where there is no file yet, it is made as a copy of this one
+    Fill fill;         // writes the new contents
+    Question current;  // asked last of all: whether the new contents still stand for the old ones
+    bool there = false;
+
+    std::unique_ptr<HostWriter> create(const HostPath& beside) const {
+        return there || copied.empty() ? host.create(beside, target)
+                                       : host.createCopy(beside, copied);
+    }
+    // Whether the system forbids a step, rather than fails at it, and there is another way.
+    template <class Step>
+    bool forbids(const Step& step) const {
+        try {
+            step();
+            return false;
+        } catch (const RunTimeError& error) {
+            const bool forbidden = error.number() == errors::PermissionDenied ||
+                                   error.number() == errors::PathFileAccess;
+            if (!there || !forbidden) throw;
+            return true;
+        }
+    }
+};
+
+enum class Outcome { Done, Outdated, Forbidden };
+
+bool always() {
+    return true;
+}
+
+std::string chanceDigits() {
     std::random_device chance;
-    char name[32];
-    std::snprintf(name, sizeof name, ".tessaro-%08x%08x.tmp", chance(), chance());
-    return name;
+    char digits[17];
+    std::snprintf(digits, sizeof digits, "%08x%08x", chance(), chance());
+    return digits;
+}
+
+// A name that no listing of the program shows. Only chance keeps two programs apart, but under the
+// folder's lock the name is ours alone, and what a killed one left there goes with the next write.
+// In the cache folder the game clears away *.tmp by itself.
+std::string temporaryName(bool alone) {
+    return alone ? ".tessaro.tmp" : ".tessaro-" + chanceDigits() + ".tmp";
 }
 
 void requireFolder(Host& host, const HostPath& folder) {
@@ -42,41 +110,108 @@ HostPath replaceable(Host& host, const HostPath& file) {
     return target;
 }
 
-// Tells whether it replaced the file: it does not if `current`, asked last of all, says that the
-// file is no longer what the new bytes were made from.
-template <class Fill, class Current>
-bool replaceBy(Host& host, const HostPath& target, const Fill& fill, const Current& current) {
+// A file of ours that goes again, unless it takes a lasting place or is left where it is.
+class PassingFile {
+  public:
+    PassingFile(Host& host, HostPath name) : host_(host), name_(std::move(name)) {}
+    PassingFile(const PassingFile&) = delete;
+    PassingFile& operator=(const PassingFile&) = delete;
+    ~PassingFile() {
+        if (passing_) attempt([&] { host_.removeFile(name_); });
+    }
+
+    const HostPath& name() const { return name_; }
+    void leave() { passing_ = false; }
+    void moveTo(const HostPath& target) {
+        host_.rename(name_, target);
+        leave();
+    }
+
+  private:
+    Host& host_;
+    HostPath name_;
+    bool passing_ = true;
+};
+
+Outcome renameOver(const Replacement& job, const HostPath& name) {
+    std::unique_ptr<HostWriter> writer;
+    if (job.forbids([&] { writer = job.create(name); })) return Outcome::Forbidden;
+    if (job.there && !writer->alike()) return Outcome::Forbidden;
+    job.fill(*writer);
+    writer->close();
+    PassingFile beside(job.host, name);
+    if (!job.current()) return Outcome::Outdated;
+    if (job.forbids([&] { beside.moveTo(job.target); })) return Outcome::Forbidden;
+    // The new file is in place. If its name is not yet on the disk, a crash gives the old one.
+    attempt([&] { job.host.flushFolder(job.target.parent_path()); });
+    return Outcome::Done;
+}
+
+Outcome renameOver(const Replacement& job) {
     for (int tries = 1;; ++tries) {
-        const HostPath beside = target.parent_path() / temporaryName();
+        const HostPath name = job.target.parent_path() / temporaryName(job.alone);
         try {
-            fill(beside);
-            const bool wanted = current();
-            wanted ? host.rename(beside, target) : host.removeFile(beside);
-            return wanted;
+            return renameOver(job, name);
         } catch (const RunTimeError& error) {
-            const bool taken = error.number() == errors::FileAlreadyExists;
-            if (!taken) attempt([&] { host.removeFile(beside); });
-            if (!taken || tries == mostTries) throw;
+            if (error.number() != errors::FileAlreadyExists || tries == mostTries) throw;
+            if (job.alone) attempt([&] { job.host.removeFile(name); });
         }
     }
 }
 
-template <class Current>
-bool replaceWith(Host& host, const HostPath& target, std::string_view bytes,
-                 const Current& current) {
-    const auto fill = [&](const HostPath& beside) {
-        const auto writer = host.create(beside, target);
-        writer->write(bytes);
-        writer->close();
-    };
-    if (!replaceBy(host, target, fill, current)) return false;
-    // The new name is in place. If it is not yet on the disk, a crash gives the old file.
-    attempt([&] { host.flushFolder(target.parent_path()); });
-    return true;
+void copyTo(Host& host, const HostPath& file, const HostPath& copy) {
+    const auto writer = host.create(copy, file);
+    writer->copy(file);
+    writer->close();
+    attempt([&] { host.flushFolder(copy.parent_path()); });
 }
 
-bool always() {
-    return true;
+// Beside the file if that can be, so that after a kill the player finds it.
+HostPath keptCopy(Host& host, const HostPath& file) {
+    const std::string name = file.filename().string() + ".tessaro-" + chanceDigits() + ".bak";
+    const HostPath beside = file.parent_path() / name;
+    if (attempt([&] { copyTo(host, file, beside); })) return beside;
+    HostPath elsewhere = host.keepingFolder() / name;
+    copyTo(host, file, elsewhere);
+    return elsewhere;
+}
+
+void overwrite(Host& host, const HostPath& file, const Fill& fill) {
+    const auto writer = host.overwrite(file);
+    fill(*writer);
+    writer->close();
+}
+
+// Where that fails too the copy is all that is left of the file.
+void putBack(Host& host, PassingFile& kept, const HostPath& file, int number) {
+    const auto fill = [&](HostWriter& writer) { writer.copy(kept.name()); };
+    if (attempt([&] { overwrite(host, file, fill); })) return;
+    kept.leave();
+    throw RunTimeError(number, file.string() + ": kept as " + kept.name().string());
+}
+
+Outcome writeOver(const Replacement& job) {
+    PassingFile kept(job.host, keptCopy(job.host, job.target));
+    if (!job.current()) return Outcome::Outdated;
+    try {
+        overwrite(job.host, job.target, job.fill);
+    } catch (const RunTimeError& error) {
+        putBack(job.host, kept, job.target, error.number());
+        throw;
+    }
+    return Outcome::Done;
+}
+
+Outcome replace(Replacement job) {
+    const auto old = job.host.status(job.target);
+    job.there = old.has_value();
+    if (old && old->names > 1) return writeOver(job);
+    const Outcome outcome = renameOver(job);
+    return outcome == Outcome::Forbidden ? writeOver(job) : outcome;
+}
+
+Fill bytesOf(std::string_view bytes) {
+    return [bytes](HostWriter& writer) { writer.write(bytes); };
 }
 
 std::optional<std::string> contentsOf(Host& host, const HostPath& file) {
@@ -84,26 +219,33 @@ std::optional<std::string> contentsOf(Host& host, const HostPath& file) {
     return host.read(file);
 }
 
+// Tells whether the change was made, or need not be.
+bool changeOnce(Host& host, const HostPath& target, bool alone, const FileChange& change) {
+    const auto old = contentsOf(host, target);
+    const auto changed = change(old ? std::string_view(*old) : std::string_view());
+    if (!changed) return true;
+    requireReplaceable(host, target);
+    const auto current = [&] {
+        return host.settles(target, noPatience) && contentsOf(host, target) == old;
+    };
+    return replace({host, target, alone, {}, bytesOf(*changed), current}) == Outcome::Done;
+}
+
 }  // namespace
 
 void replaceFile(Host& host, const HostPath& file, std::string_view bytes) {
     const HostPath target = replaceable(host, file);
-    const auto lock = host.lock(target.parent_path(), patience);
-    replaceWith(host, target, bytes, always);
+    const auto lock = host.lock(target.parent_path(), turnPatience);
+    replace({host, target, lock != nullptr, {}, bytesOf(bytes), always});
 }
 
 void changeFile(Host& host, const HostPath& file, const FileChange& change) {
     const HostPath target = host.target(file);
     requireFolder(host, target.parent_path());
-    const auto lock = host.lock(target.parent_path(), patience);
-    for (int tries = 1; tries <= mostTries; ++tries) {
-        const auto old = contentsOf(host, target);
-        const auto changed = change(old ? std::string_view(*old) : std::string_view());
-        if (!changed) return;
-        requireReplaceable(host, target);
-        if (replaceWith(host, target, *changed, [&] { return contentsOf(host, target) == old; })) {
-            return;
-        }
+    const auto lock = host.lock(target.parent_path(), turnPatience);
+    for (int tries = 0; tries < mostTries; ++tries) {
+        if (!host.settles(target, writerPatience)) break;
+        if (changeOnce(host, target, lock != nullptr, change)) return;
     }
     throw RunTimeError(errors::PermissionDenied, target.string());
 }
@@ -114,8 +256,8 @@ void requireReplaceable(Host& host, const HostPath& file) {
 
 void replaceByCopy(Host& host, const HostPath& from, const HostPath& to) {
     const HostPath target = replaceable(host, to);
-    replaceBy(
-        host, target, [&](const HostPath& beside) { host.copy(from, beside, target); }, always);
+    const auto fill = [&](HostWriter& writer) { writer.copy(from); };
+    replace({host, target, false, from, fill, always});
 }
 
 }  // namespace tessaro

@@ -9,10 +9,10 @@
 
 namespace tessaro {
 
-/// The program's one way to write a file: beside it, flushed, renamed over, with the old file's
-/// permissions, through a link if it is one. A crash or a full disk leaves the old file or the new
-/// one. Raises 75 for a file that is read-only or is a folder, 76 for a missing folder, 61 for a
-/// full disk; what was written beside is then removed.
+/// The program's one way to write a file: a crash, a kill or a full disk leaves the old file or the
+/// new one. It goes through a link if it is one, and stays what it was: its owner, its permissions,
+/// its other names. Raises 75 for a file that is read-only or is a folder, 76 for a missing folder,
+/// 61 for a full disk. How this is done is told in wholefile.cpp.
 void replaceFile(Host& host, const HostPath& file, std::string_view bytes);
 
 /// What a file's bytes are to become, empty ones standing for no file; nothing leaves it as it is.
@@ -20,14 +20,15 @@ using FileChange = std::function<std::optional<std::string>(std::string_view byt
 
 /// Reads a file, changes its bytes and replaces it, as one step: two of our programs that change
 /// one file take turns, and where another program changed it meanwhile the change is made again, to
-/// what it holds now. Raises 70 if that never ends, else what reading and `replaceFile` raise.
+/// what it holds now. Raises 70 if that never ends, or if another program has the file open for
+/// writing and does not come to an end, else what reading and `replaceFile` raise.
 void changeFile(Host& host, const HostPath& file, const FileChange& change);
 
 /// Raises the 75 or 76 that `replaceFile` would, and writes nothing.
 void requireReplaceable(Host& host, const HostPath& file);
 
-/// The same for a copy, whose contents the host moves and which is not forced to the disk: a lost
-/// copy can be made again.
+/// The same as `replaceFile` with the contents of another file. When this returns they are on the
+/// disk, so that the other one can be deleted.
 void replaceByCopy(Host& host, const HostPath& from, const HostPath& to);
 
 }  // namespace tessaro

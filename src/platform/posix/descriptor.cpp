@@ -1,6 +1,7 @@
 #include "platform/posix/descriptor.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/runtime/runtimeerror.h"
@@ -28,6 +29,12 @@ Descriptor::~Descriptor() {
     if (fd_ != -1) ::close(fd_);
 }
 
+std::size_t Descriptor::size() const {
+    struct stat info = {};
+    if (::fstat(fd_, &info) == -1) raiseErrno(path_);
+    return static_cast<std::size_t>(info.st_size);
+}
+
 void Descriptor::write(std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t done =
@@ -50,6 +57,14 @@ void Descriptor::flush() {
 void Descriptor::close() {
     // Not repeated after a signal: the descriptor is gone by then and may be someone else's.
     if (::close(std::exchange(fd_, -1)) == -1 && errno != EINTR) raiseErrno(path_);
+}
+
+Descriptor openRegular(const HostPath& file) {
+    Descriptor opened(file, O_RDONLY | O_NONBLOCK);
+    struct stat info = {};
+    if (::fstat(opened.get(), &info) == -1) raiseErrno(file);
+    if (!S_ISREG(info.st_mode)) throw RunTimeError(errors::PathFileAccess, file.native());
+    return opened;
 }
 
 }  // namespace tessaro

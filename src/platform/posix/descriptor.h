@@ -37,6 +37,8 @@ class Descriptor {
 
     int get() const { return fd_; }
     const HostPath& path() const { return path_; }
+    /// Bytes in the file.
+    std::size_t size() const;
     void write(std::string_view bytes);
     /// Reads at most `size` bytes; 0 at the end of the file.
     std::size_t read(char* buffer, std::size_t size);
@@ -48,5 +50,8 @@ class Descriptor {
     HostPath path_;
     int fd_;
 };
+
+/// Opens a file for reading. Raises 75 for devices and pipes, which have no end, or block.
+Descriptor openRegular(const HostPath& file);
 
 }  // namespace tessaro

@@ -4,11 +4,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <thread>
 
 #include "platform/files/host.h"
 #include "platform/posix/descriptor.h"
-#include "platform/posix/posixcopy.h"
+#include "platform/posix/posixwriter.h"
 #include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
@@ -16,9 +17,7 @@ namespace tessaro {
 namespace {
 
 constexpr mode_t anyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
-constexpr mode_t permissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
 constexpr mode_t newFile = anyWriteBit | S_IRUSR | S_IRGRP | S_IROTH;
-constexpr mode_t onlyOurs = S_IRUSR | S_IWUSR;
 constexpr int mostLinks = 40;
 constexpr std::chrono::microseconds betweenLooks{100};
 
@@ -57,50 +56,10 @@ HostStatus statusFrom(const struct stat& info, const HostPath& path) {
     status.readOnly = (info.st_mode & anyWriteBit) == 0;
     status.hidden = beginsWithDot(path.native());  // as Wine sees it
     status.size = static_cast<std::uintmax_t>(info.st_size);
+    status.names = info.st_nlink;
     status.stamp = stampFrom(info);
     return status;
 }
-
-// Gives a new file the owner and the permissions of an old one. That only a privileged user may
-// give files away is no reason to fail.
-void dress(const Descriptor& file, const struct stat& like) {
-    if (::fchown(file.get(), like.st_uid, like.st_gid) == -1) {
-        static_cast<void>(::fchown(file.get(), static_cast<uid_t>(-1), like.st_gid) == 0);
-    }
-    raiseIfFailed(::fchmod(file.get(), like.st_mode & permissionBits), file.path());
-}
-
-Descriptor createLike(const HostPath& file, const HostPath& like) {
-    struct stat info = {};
-    const bool known = ::stat(systemName(like), &info) == 0;
-    // Nobody may look into a private file while its successor is being written.
-    Descriptor created(file, O_WRONLY | O_CREAT | O_EXCL, known ? onlyOurs : newFile);
-    if (known) dress(created, info);
-    return created;
-}
-
-// Devices and pipes have no end, or block.
-Descriptor openRegular(const HostPath& file, std::size_t& size) {
-    Descriptor opened(file, O_RDONLY | O_NONBLOCK);
-    struct stat info = {};
-    raiseIfFailed(::fstat(opened.get(), &info), file);
-    if (!S_ISREG(info.st_mode)) throw RunTimeError(errors::PathFileAccess, file.native());
-    size = static_cast<std::size_t>(info.st_size);
-    return opened;
-}
-
-class PosixWriter : public HostWriter {
-  public:
-    explicit PosixWriter(Descriptor file) : file_(std::move(file)) {}
-    void write(std::string_view bytes) override { file_.write(bytes); }
-    void close() override {
-        file_.flush();
-        file_.close();
-    }
-
-  private:
-    Descriptor file_;
-};
 
 class PosixHeldFolder : public HeldFolder {
   public:
@@ -115,12 +74,13 @@ class PosixHeldFolder : public HeldFolder {
     Descriptor folder_;
 };
 
-// Asks again and again, since a wait in the kernel has no limit. The pauses are short, so that
-// others who lock in a row do not keep us out for long.
-bool locked(int folder, std::chrono::milliseconds patience) {
+// Asks until the answer is yes; gives the last one. The pauses are short, so that others who take
+// turns in a row do not keep us out for long.
+template <class Question>
+bool becomes(std::chrono::milliseconds patience, const Question& question) {
     const auto end = std::chrono::steady_clock::now() + patience;
-    while (::flock(folder, LOCK_EX | LOCK_NB) == -1) {
-        if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= end) return false;
+    while (!question()) {
+        if (std::chrono::steady_clock::now() >= end) return false;
         std::this_thread::sleep_for(betweenLooks);
     }
     return true;
@@ -133,6 +93,20 @@ class PosixFolderLock : public FolderLock {
   private:
     Descriptor folder_;  // the lock goes when this is closed, also by a kill
 };
+
+// The system refuses to lease a file that anybody has open for writing. A lease that it grants goes
+// back at once; it would tell us by a signal of those who came in between, and that must not be one
+// that ends the program.
+bool isBeingWritten([[maybe_unused]] const Descriptor& file) {
+#ifdef F_SETLEASE
+    ::fcntl(file.get(), F_SETSIG, SIGURG);
+    const bool refused = ::fcntl(file.get(), F_SETLEASE, F_RDLCK) == -1 && errno == EAGAIN;
+    if (!refused) ::fcntl(file.get(), F_SETLEASE, F_UNLCK);
+    return refused;
+#else
+    return false;
+#endif
+}
 
 class PosixHost : public Host {
   public:
@@ -167,7 +141,8 @@ class PosixHost : public Host {
         std::unique_ptr<FolderLock> lock;
         attempt([&] {
             Descriptor opened(folder, O_RDONLY | O_DIRECTORY);
-            if (locked(opened.get(), patience)) {
+            const auto locked = [&] { return ::flock(opened.get(), LOCK_EX | LOCK_NB) == 0; };
+            if (becomes(patience, [&] { return locked() || errno != EWOULDBLOCK; }) && locked()) {
                 lock = std::make_unique<PosixFolderLock>(std::move(opened));
             }
         });
@@ -182,11 +157,19 @@ class PosixHost : public Host {
                ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
     }
 
+    bool settles(const HostPath& file, std::chrono::milliseconds patience) override {
+        bool settled = true;
+        attempt([&] {
+            const Descriptor opened(file, O_RDONLY | O_NONBLOCK);
+            settled = becomes(patience, [&] { return !isBeingWritten(opened); });
+        });
+        return settled;
+    }
+
     std::string read(const HostPath& file) override {
-        std::size_t size = 0;
-        Descriptor opened = openRegular(file, size);
+        Descriptor opened = openRegular(file);
         // One byte more than expected, so that the end of the file shows at the first try.
-        std::string bytes(size + 1, '\0');
+        std::string bytes(opened.size() + 1, '\0');
         std::size_t have = 0;
         while (const std::size_t got = opened.read(bytes.data() + have, bytes.size() - have)) {
             have += got;
@@ -197,19 +180,19 @@ class PosixHost : public Host {
     }
 
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override {
-        return std::make_unique<PosixWriter>(createLike(file, like));
+        return writerLike(file, like);
+    }
+
+    std::unique_ptr<HostWriter> createCopy(const HostPath& file, const HostPath& from) override {
+        return writerOfCopy(file, from);
+    }
+
+    std::unique_ptr<HostWriter> overwrite(const HostPath& file) override {
+        return writerOver(file);
     }
 
     void touch(const HostPath& file) override {
         Descriptor(file, O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK, newFile).close();
-    }
-
-    void copy(const HostPath& from, const HostPath& to, const HostPath& like) override {
-        std::size_t size = 0;
-        Descriptor source = openRegular(from, size);
-        Descriptor target = createLike(to, status(like) ? like : from);
-        copyContents(source, target);
-        target.close();
     }
 
     void rename(const HostPath& from, const HostPath& to) override {
@@ -228,6 +211,14 @@ class PosixHost : public Host {
 
     void makeFolder(const HostPath& folder) override {
         raiseIfFailed(::mkdir(systemName(folder), S_IRWXU | S_IRWXG | S_IRWXO), folder);
+    }
+
+    HostPath keepingFolder() override {
+        const HostPath folder = "/var/tmp";
+        std::error_code error;
+        return ::access(folder.c_str(), W_OK | X_OK) == 0
+                   ? folder
+                   : std::filesystem::temp_directory_path(error);
     }
 
     HostPath target(const HostPath& path) override {
@@ -258,6 +249,8 @@ class PosixHost : public Host {
 }  // namespace
 
 std::unique_ptr<Host> makeHost() {
+    // A limit on the size of files then shows as a failed write, as a full disk does.
+    std::signal(SIGXFSZ, SIG_IGN);
     return std::make_unique<PosixHost>();
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <functional>
 
 #include "support/testworld.h"
 
@@ -122,11 +123,22 @@ TEST(WholeFile, AFullDiskLeavesTheOldFileWhereverItStrikes) {
     EXPECT_EQ(world.read("C:\\s\\file.ini"), newer);
 }
 
-TEST(WholeFile, ARefusalOnTheWayLeavesTheOldFile) {
+TEST(WholeFile, AFailureOnTheWayLeavesTheOldFile) {
     Folder world;
-    for (const Call call : {Call::Create, Call::Rename, Call::Status}) {
+    for (const Call call : {Call::Create, Call::Close, Call::Rename, Call::Status}) {
+        world.host.refuse(call, errors::DeviceIo);
+        EXPECT_EQ(world.replaceError(), errors::DeviceIo);
+        world.host.relent();
+        world.expectOld();
+    }
+}
+
+TEST(WholeFile, AFailureOnTheWayToANewFileLeavesNothing) {
+    Folder world;
+    for (const Call call : {Call::Create, Call::Close, Call::Rename}) {
         world.host.refuse(call, errors::PermissionDenied);
-        EXPECT_EQ(world.replaceError(), errors::PermissionDenied);
+        EXPECT_EQ(errorOf([&] { replaceFile(world.host, world.at("C:\\s\\new"), "x"); }),
+                  errors::PermissionDenied);
         world.host.relent();
         world.expectOld();
     }
@@ -145,10 +157,13 @@ TEST(WholeFile, AFolderThatVanishesRaises76) {
     EXPECT_EQ(world.replaceError(), errors::PathNotFound);
 }
 
-// Says of the first names that they are taken, as leftovers of a killed process would be.
+// Says of the first names that they are taken, as by another program of ours. There are no locks.
 class TakenNames : public test::FailingHost {
   public:
     using FailingHost::FailingHost;
+    std::unique_ptr<FolderLock> lock(const HostPath&, std::chrono::milliseconds) override {
+        return nullptr;
+    }
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override {
         tried.push_back(file);
         if (tried.size() <= taken) throw RunTimeError(errors::FileAlreadyExists);
@@ -163,7 +178,7 @@ class TakenNames : public test::FailingHost {
     std::vector<HostPath> removed;
 };
 
-TEST(WholeFile, ATakenNameIsLeftAloneAndAnotherTried) {
+TEST(WholeFile, WithoutALockATakenNameIsLeftAloneAndAnotherTried) {
     Folder world;
     TakenNames host(world.host);
     replaceFile(host, world.file(), newer);
@@ -182,13 +197,34 @@ TEST(WholeFile, GivesUpIfEveryNameIsTaken) {
     world.expectOld();
 }
 
-TEST(WholeFile, NoListingShowsTheFileBeside) {
+TEST(WholeFile, NoListingShowsTheFileBesideAndTheNextWriteTakesItAway) {
     Folder world;
     world.host.refuse(Call::RemoveFile, errors::PermissionDenied);
-    world.host.setDiskSpace(3);
-    EXPECT_EQ(world.replaceError(), errors::DiskFull);
+    world.host.refuse(Call::Rename, errors::DeviceIo);
+    for (int i = 0; i < 3; ++i) EXPECT_NE(world.replaceError(), 0);
     EXPECT_EQ(world.names("C:\\s").size(), 2U);
     EXPECT_THAT(world.files.list("C:\\s\\*.*", attributes::Normal), ElementsAre("file.ini"));
+    world.host.relent();
+    EXPECT_EQ(world.replaceError(), 0);
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("file.ini"));
+    EXPECT_EQ(world.read("C:\\s\\file.ini"), newer);
+}
+
+TEST(WholeFile, BytesAreOnTheDiskBeforeTheyGetTheirNameAndTheNameBeforeAllIsDone) {
+    Folder world;
+    world.write("C:\\from", newer);
+    const auto stepsOf = [&](const std::function<void()>& work) {
+        const std::size_t before = world.host.calls().size();
+        work();
+        std::vector<Call> steps(world.host.calls().begin() + static_cast<std::ptrdiff_t>(before),
+                                world.host.calls().end());
+        std::erase_if(steps, [](Call call) { return call == Call::Status || call == Call::Lock; });
+        return steps;
+    };
+    EXPECT_THAT(stepsOf([&] { replaceFile(world.host, world.file(), newer); }),
+                ElementsAre(Call::Create, Call::Close, Call::Rename, Call::Flush));
+    EXPECT_THAT(stepsOf([&] { replaceByCopy(world.host, world.at("C:\\from"), world.file()); }),
+                ElementsAre(Call::Create, Call::Copy, Call::Close, Call::Rename, Call::Flush));
 }
 
 TEST(WholeFile, ACopyReplacesWithTheOldPermissions) {
@@ -213,9 +249,12 @@ TEST(WholeFile, ACopyThatFailsLeavesTheOldFile) {
     EXPECT_EQ(copyError(), errors::DiskFull);
     world.expectOld();
     world.host.relent();
-    world.host.refuse(Call::Rename, errors::PermissionDenied);
-    EXPECT_EQ(copyError(), errors::PermissionDenied);
-    world.expectOld();
+    for (const Call call : {Call::Copy, Call::Close, Call::Rename}) {
+        world.host.refuse(call, errors::DeviceIo);
+        EXPECT_EQ(copyError(), errors::DeviceIo);
+        world.host.relent();
+        world.expectOld();
+    }
 }
 
 }  // namespace
