@@ -48,6 +48,7 @@ class FailingHost : public Host {
                                      std::chrono::milliseconds patience) override;
     bool writable(const HostPath& path) override;
     std::string read(const HostPath& file) override;
+    WatchedBytes readWatched(const HostPath& file) override;
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override;
     void touch(const HostPath& file) override;
     void copy(const HostPath& from, const HostPath& to, const HostPath& like) override;

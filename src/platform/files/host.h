@@ -49,6 +49,21 @@ class HeldFolder {
     virtual std::optional<FolderStamp> stamp() = 0;
 };
 
+/// A watch over a file that was read.
+class FileWatch {
+  public:
+    virtual ~FileWatch() = default;
+    /// Whether it is certain that its path still leads to the same bytes and may be used in the
+    /// same ways. A watch that has once said no says no for good.
+    virtual bool quiet() = 0;
+};
+
+/// A file's bytes, and the watch that was begun before they were read.
+struct WatchedBytes {
+    std::string bytes;
+    std::unique_ptr<FileWatch> watch;
+};
+
 /// The exclusive right to change files in a folder, among programs of ours; given up at its end.
 class FolderLock {
   public:
@@ -75,6 +90,9 @@ class Host {
     /// Whether this is a file (no folder, no device) that its flags and the system let us write.
     virtual bool writable(const HostPath& path) = 0;
     virtual std::string read(const HostPath& file) = 0;
+    /// The same with a watch, where the system tells of everything that could change the file; the
+    /// next one may end it.
+    virtual WatchedBytes readWatched(const HostPath& file) { return {read(file), nullptr}; }
     /// Creates a file that must not exist yet, with the permissions of `like` if that exists.
     virtual std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) = 0;
     /// Opens for appending and closes: creates an empty file, or changes nothing in one.

@@ -8,6 +8,7 @@
 
 #include "platform/files/host.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/filewatch.h"
 #include "platform/posix/posixcopy.h"
 #include "platform/runtime/runtimeerror.h"
 
@@ -87,6 +88,18 @@ Descriptor openRegular(const HostPath& file, std::size_t& size) {
     if (!S_ISREG(info.st_mode)) throw RunTimeError(errors::PathFileAccess, file.native());
     size = static_cast<std::size_t>(info.st_size);
     return opened;
+}
+
+std::string contents(Descriptor& file, std::size_t expected) {
+    // One byte more than expected, so that the end of the file shows at the first try.
+    std::string bytes(expected + 1, '\0');
+    std::size_t have = 0;
+    while (const std::size_t got = file.read(bytes.data() + have, bytes.size() - have)) {
+        have += got;
+        if (have == bytes.size()) bytes.resize(2 * have);
+    }
+    bytes.resize(have);
+    return bytes;
 }
 
 class PosixWriter : public HostWriter {
@@ -186,15 +199,14 @@ class PosixHost : public Host {
     std::string read(const HostPath& file) override {
         std::size_t size = 0;
         Descriptor opened = openRegular(file, size);
-        // One byte more than expected, so that the end of the file shows at the first try.
-        std::string bytes(size + 1, '\0');
-        std::size_t have = 0;
-        while (const std::size_t got = opened.read(bytes.data() + have, bytes.size() - have)) {
-            have += got;
-            if (have == bytes.size()) bytes.resize(2 * have);
-        }
-        bytes.resize(have);
-        return bytes;
+        return contents(opened, size);
+    }
+
+    WatchedBytes readWatched(const HostPath& file) override {
+        std::size_t size = 0;
+        Descriptor opened = openRegular(file, size);
+        auto watch = watchFile(opened);
+        return {contents(opened, size), std::move(watch)};
     }
 
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override {
