@@ -8,10 +8,12 @@
 #include <vector>
 
 #include "platform/profile/profileedit.h"
-#include "platform/profile/profileread.h"
+#include "support/profilereads.h"
 
 namespace tessaro {
 namespace {
+
+using test::profileValue;
 
 using Found = std::optional<std::string>;
 using Lines = std::vector<std::string>;  // each with its end
