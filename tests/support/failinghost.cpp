@@ -104,6 +104,11 @@ std::string FailingHost::read(const HostPath& file) {
     return real_.read(file);
 }
 
+WatchedBytes FailingHost::readWatched(const HostPath& file) {
+    pass(Call::Read, file);
+    return real_.readWatched(file);
+}
+
 std::unique_ptr<HostWriter> FailingHost::create(const HostPath& file, const HostPath& like) {
     pass(Call::Create, file);
     return std::make_unique<Writer>(*this, file, real_.create(file, like), 0);

@@ -55,6 +55,7 @@ class FailingHost : public Host {
     bool writable(const HostPath& path) override;
     bool settles(const HostPath& file, std::chrono::milliseconds patience) override;
     std::string read(const HostPath& file) override;
+    WatchedBytes readWatched(const HostPath& file) override;
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override;
     std::unique_ptr<HostWriter> createCopy(const HostPath& file, const HostPath& from) override;
     std::unique_ptr<HostWriter> overwrite(const HostPath& file) override;

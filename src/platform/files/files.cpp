@@ -170,6 +170,22 @@ std::string Files::read(std::string_view file) {
     return host_.read(existing(host_, paths_.toHost(file)));
 }
 
+bool Files::remembers(std::string_view file) {
+    // Mostly it is asked for by its full path, which need not be taken apart again.
+    const bool known = file == memory_.path() || paths_.absolute(file) == memory_.path();
+    return known && memory_.certain();
+}
+
+std::shared_ptr<const std::string> Files::content(std::string_view file) {
+    if (remembers(file)) return memory_.bytes();
+    const std::string full = paths_.absolute(file);
+    const HostPath path = paths_.toHost(full);
+    memory_.read(full, existing(host_, path));
+    // Only now that it is watched, the way to the file cannot change unseen.
+    if (paths_.find(full) != path) memory_.doubt();
+    return memory_.bytes();
+}
+
 void Files::replace(std::string_view file, std::string_view bytes) {
     const HostPath path = paths_.toHost(file);
     replaceFile(host_, path, bytes);
@@ -183,6 +199,7 @@ void Files::change(std::string_view file, const FileChange& change) {
 }
 
 void Files::touch(std::string_view file) {
+    if (remembers(file) && memory_.writable()) return;
     const HostPath path = paths_.toHost(file);
     requireReplaceable(host_, path);
     host_.touch(path);

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "platform/files/filememory.h"
 #include "platform/files/host.h"
 #include "platform/files/paths.h"
 #include "platform/files/wholefile.h"
@@ -51,6 +53,9 @@ class Files {
     void makeFolder(std::string_view folder);
 
     std::string read(std::string_view file);
+    /// What `read` gives. The same object as in the call before if the bytes are the same, so that
+    /// what was made of them can be kept with it. Asked for in a row, a file is mostly not read.
+    std::shared_ptr<const std::string> content(std::string_view file);
     /// Replaces a file whole (see wholefile.h), or creates it.
     void replace(std::string_view file, std::string_view bytes);
     /// Reads, changes and replaces a file as one step (see wholefile.h). A missing file is created.
@@ -62,12 +67,14 @@ class Files {
     Paths& paths() { return paths_; }
 
   private:
+    bool remembers(std::string_view file);
     std::vector<std::string> namesToDelete(std::string_view pattern);
     std::vector<std::string> listFolder(std::string_view folder, std::string_view pattern,
                                         int attributes);
 
     Host& host_;
     Paths& paths_;
+    FileMemory memory_{host_};
 };
 
 }  // namespace tessaro

@@ -57,6 +57,21 @@ class HeldFolder {
     virtual std::optional<FolderStamp> stamp() = 0;
 };
 
+/// A watch over a file that was read.
+class FileWatch {
+  public:
+    virtual ~FileWatch() = default;
+    /// Whether it is certain that its path still leads to the same bytes and may be used in the
+    /// same ways. A watch that has once said no says no for good.
+    virtual bool quiet() = 0;
+};
+
+/// A file's bytes, and the watch that was begun before they were read.
+struct WatchedBytes {
+    std::string bytes;
+    std::unique_ptr<FileWatch> watch;
+};
+
 /// The exclusive right to change files in a folder, among programs of ours; given up at its end.
 class FolderLock {
   public:
@@ -84,6 +99,9 @@ class Host {
     /// Whether this is a file (no folder, no device) that its flags and the system let us write.
     virtual bool writable(const HostPath& path) = 0;
     virtual std::string read(const HostPath& file) = 0;
+    /// The same with a watch, where the system tells of everything that could change the file; the
+    /// next one may end it.
+    virtual WatchedBytes readWatched(const HostPath& file) { return {read(file), nullptr}; }
     /// Waits until no other program has the file open for writing, as far as the system tells.
     /// False if one still has at the end of `patience`.
     virtual bool settles(const HostPath& file, std::chrono::milliseconds patience) = 0;

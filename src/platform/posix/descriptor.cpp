@@ -21,7 +21,16 @@ const char* systemName(const HostPath& path) {
 }
 
 Descriptor::Descriptor(const HostPath& path, int flags, mode_t mode) : path_(path) {
-    fd_ = uninterrupted([&] { return ::open(systemName(path), flags | O_CLOEXEC, mode); });
+    const auto open = [&](int how) {
+        return uninterrupted([&] { return ::open(systemName(path), how | O_CLOEXEC, mode); });
+    };
+    fd_ = open(flags);
+    // A file that somebody has borrowed is given back soon. (A pipe fails in another way.)
+    if (fd_ == -1 && errno == EWOULDBLOCK) fd_ = open(flags & ~O_NONBLOCK);
+    if (fd_ == -1) raiseErrno(path);
+}
+
+Descriptor::Descriptor(int opened, const HostPath& path) : path_(path), fd_(opened) {
     if (fd_ == -1) raiseErrno(path);
 }
 

@@ -30,6 +30,8 @@ class Descriptor {
   public:
     /// Raises what opening raises.
     Descriptor(const HostPath& path, int flags, mode_t mode = 0);
+    /// Takes over what another call opened. Raises `errno` for -1.
+    Descriptor(int opened, const HostPath& path);
     Descriptor(Descriptor&& other) noexcept
         : path_(std::move(other.path_)), fd_(std::exchange(other.fd_, -1)) {}
     Descriptor& operator=(Descriptor&&) = delete;

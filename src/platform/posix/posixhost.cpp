@@ -9,6 +9,7 @@
 
 #include "platform/files/host.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/filewatch.h"
 #include "platform/posix/posixwriter.h"
 #include "platform/runtime/runtimeerror.h"
 
@@ -59,6 +60,18 @@ HostStatus statusFrom(const struct stat& info, const HostPath& path) {
     status.names = info.st_nlink;
     status.stamp = stampFrom(info);
     return status;
+}
+
+std::string contents(Descriptor& file) {
+    // One byte more than expected, so that the end of the file shows at the first try.
+    std::string bytes(file.size() + 1, '\0');
+    std::size_t have = 0;
+    while (const std::size_t got = file.read(bytes.data() + have, bytes.size() - have)) {
+        have += got;
+        if (have == bytes.size()) bytes.resize(2 * have);
+    }
+    bytes.resize(have);
+    return bytes;
 }
 
 class PosixHeldFolder : public HeldFolder {
@@ -168,15 +181,13 @@ class PosixHost : public Host {
 
     std::string read(const HostPath& file) override {
         Descriptor opened = openRegular(file);
-        // One byte more than expected, so that the end of the file shows at the first try.
-        std::string bytes(opened.size() + 1, '\0');
-        std::size_t have = 0;
-        while (const std::size_t got = opened.read(bytes.data() + have, bytes.size() - have)) {
-            have += got;
-            if (have == bytes.size()) bytes.resize(2 * have);
-        }
-        bytes.resize(have);
-        return bytes;
+        return contents(opened);
+    }
+
+    WatchedBytes readWatched(const HostPath& file) override {
+        Descriptor opened = openRegular(file);
+        auto watch = watchFile(opened);
+        return {contents(opened), std::move(watch)};
     }
 
     std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override {

@@ -2,7 +2,7 @@
 
 #include "platform/profile/profileedit.h"
 #include "platform/profile/profilelines.h"
-#include "platform/profile/profileread.h"
+#include "platform/profile/profilereader.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/encoding.h"
 #include "platform/text/utf8.h"
@@ -61,15 +61,25 @@ std::string ProfileCalls::getPrivateProfileString(std::optional<std::string_view
     const auto defaultResult = [&] {
         return std::string(left(withoutTrailingSpaces(defaultText), size - 1));
     };
-    std::string bytes;
-    if (!attempt([&] { bytes = files_.read(file); })) return defaultResult();
-    if (!section) return cutListing(profileSections(bytes), size);
+    ProfileReader* reader = nullptr;
+    if (!attempt([&] { reader = &readerOf(file); })) return defaultResult();
+    if (!section) return cutListing(reader->sections(), size);
     if (!key) {
-        auto keys = profileKeys(bytes, nameFrom(*section));
+        auto keys = reader->keys(nameFrom(*section));
         return keys ? cutListing(*std::move(keys), size) : defaultResult();
     }
-    const auto value = profileValue(bytes, nameFrom(*section), nameFrom(*key));
+    const auto value = reader->value(nameFrom(*section), nameFrom(*key));
     return value ? std::string(left(*value, size - 1)) : defaultResult();
+}
+
+ProfileReader& ProfileCalls::readerOf(std::string_view file) {
+    auto bytes = files_.content(file);
+    if (bytes != bytes_) {
+        reader_.reset();
+        bytes_ = std::move(bytes);
+        reader_.emplace(*bytes_);
+    }
+    return *reader_;
 }
 
 bool ProfileCalls::writePrivateProfileString(std::string_view section,

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/files/files.h"
+#include "platform/profile/profilereader.h"
 
 namespace tessaro {
 
@@ -15,6 +17,7 @@ namespace tessaro {
 ///     key=value
 ///
 /// They behave byte by byte as the Windows calls of these names do, see docs/profile-calls.md.
+/// What a read found is remembered as long as the file is certain to be the same.
 class ProfileCalls {
   public:
     explicit ProfileCalls(Files& files) : files_(files) {}
@@ -34,7 +37,11 @@ class ProfileCalls {
                                    std::optional<std::string_view> text, std::string_view file);
 
   private:
+    ProfileReader& readerOf(std::string_view file);
+
     Files& files_;
+    std::shared_ptr<const std::string> bytes_;  // of the file that was read last
+    std::optional<ProfileReader> reader_;
 };
 
 }  // namespace tessaro

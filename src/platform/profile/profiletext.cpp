@@ -53,6 +53,7 @@ bool ProfileText::wide() const {
 }
 
 std::string ProfileText::decoded(std::string_view part) const {
+    if (isAsciiText(part)) return std::string(part);
     return encoding_ == Encoding::CodePage ? decodeText(part, encoding_) : wholeCharacters(part);
 }
 

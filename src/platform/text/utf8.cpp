@@ -114,6 +114,7 @@ std::size_t length(std::string_view text) {
 }
 
 std::string_view left(std::string_view text, std::size_t count) {
+    if (text.size() <= count) return text;  // no character is shorter than a byte
     return text.substr(0, advance(text, 0, count));
 }
 

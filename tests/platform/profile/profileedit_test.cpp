@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/profile/profileread.h"
+#include "support/profilereads.h"
 
 namespace tessaro {
 namespace {
 
+using test::profileSections;
 using namespace std::string_literals;
+using test::profileValue;
 
 std::optional<std::string> write(std::string_view bytes, std::string_view section,
                                  std::string_view key, std::string_view text) {

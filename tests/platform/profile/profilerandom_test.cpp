@@ -1,244 +1,156 @@
-// Random files and random changes, compared with a plain reading of the rules: cut the file into
-// lines, look at them one after the other, put them together again.
+// Random files and random changes, compared with a plain reading of the rules.
 
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <random>
 #include <vector>
 
 #include "platform/profile/profileedit.h"
-#include "platform/profile/profileread.h"
+#include "support/plainprofile.h"
+#include "support/profilereads.h"
 
 namespace tessaro {
 namespace {
 
+using namespace std::string_literals;
+using test::plainlyChanged;
+using test::plainValue;
+using test::profileValue;
+
 using Found = std::optional<std::string>;
-using Lines = std::vector<std::string>;  // each with its end
+using Choices = std::vector<std::string>;
 
 class Dice {
   public:
     explicit Dice(unsigned seed) : engine_(seed) {}
     std::size_t below(std::size_t count) { return engine_() % count; }
-    std::string oneOf(const std::vector<std::string>& choices) {
-        return choices[below(choices.size())];
+    bool once(std::size_t in) { return below(in) == 0; }
+    const std::string& oneOf(const Choices& choices) { return choices[below(choices.size())]; }
+    std::string textOf(const Choices& parts, std::size_t most) {
+        std::string text;
+        for (std::size_t count = below(most); count > 0; --count) text += oneOf(parts);
+        return text;
     }
 
   private:
     std::mt19937 engine_;
 };
 
-Lines cut(const std::string& text) {
-    Lines lines;
-    std::string line;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        line += text[i];
-        const bool inside = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
-        if (!inside && (text[i] == '\r' || text[i] == '\n')) {
-            lines.push_back(line);
-            line.clear();
+const Choices names{"a", "A", "b", "Ab", "a b", ""};
+const Choices values{"", "x", "a=b", "[a]", ";", "long value"};
+const Choices parts{"[",    "]",    "=",   ";",       " ",    "\t", "\v", "\r",  "\n",
+                    "\r\n", "\r\n", "\n",  "a",       "A",    "b",  "Ab", "a b", "[a]",
+                    "[b]",  "a=",   "b=1", "\n[a]\n", "\na=", "#",  "\0"s};
+
+// Letters in the code page and in UTF-8, which are each other's nonsense, and such that only one of
+// the two has.
+const Choices letterNames{"a", "é", "É", "Ã©", "ã©", "€", "Ł", "ł", "Ж", "aé"};
+const Choices letterValues{"", "x", "é", "Ã©", "€", "Ł", "Ã", "漢", "\xF0\x9F\x8E\xAE"};
+const Choices letterParts{
+    "\n",       "\n",         "\r\n",           "=",           "=",      "a",
+    "\xE9",     "\xC3\xA9",   "\xC9",           "\xC3\x89",    "\x80",   "\xE2\x82\xAC",
+    "\xC5\x81", "\xC3",       "\xA9",           "[",           "]",      ";",
+    "\n[a]\n",  "\n[\xE9]\n", "\n[\xC3\xA9]\n", "\n\xC3\xA9=", "\n\xE9="};
+
+// A file in any encoding, or in a mixture of two.
+std::string letterFile(Dice& dice) {
+    std::string text = dice.textOf(letterParts, 16);
+    if (dice.once(3)) text = "[" + dice.oneOf({"\xE9", "\xC3\xA9", "a"}) + "]" + text;
+    if (dice.once(6)) return "\xEF\xBB\xBF" + text;
+    if (!dice.once(4)) return text;
+    const auto wide = dice.once(2) ? Encoding::Utf16LittleEndian : Encoding::Utf16BigEndian;
+    return encodeText(text, wide).value() + (dice.once(3) ? "z" : "");
+}
+
+struct Arguments {
+    std::string bytes;
+    std::string section;
+    std::string key;
+    std::string value;
+};
+
+std::ostream& operator<<(std::ostream& out, const Arguments& arguments) {
+    return out << testing::PrintToString(arguments.bytes) << " [" << arguments.section << "] "
+               << arguments.key << "=" << arguments.value;
+}
+
+Arguments plainArguments(Dice& dice) {
+    return {dice.textOf(parts, 24), dice.oneOf(names), dice.oneOf(names), dice.oneOf(values)};
+}
+
+Arguments letterArguments(Dice& dice) {
+    return {letterFile(dice), dice.oneOf(letterNames), dice.oneOf(letterNames),
+            dice.oneOf(letterValues)};
+}
+
+// The order of the parameters of a test: which arguments, and how many rounds of them.
+using Case = std::pair<Arguments (*)(Dice&), int>;
+
+class ProfileRandom : public testing::TestWithParam<Case> {
+  protected:
+    template <class Check>
+    void forAll(unsigned seed, const Check& check) {
+        Dice dice(seed);
+        for (int round = 0; round < GetParam().second; ++round) {
+            check(GetParam().first(dice), dice);
+            if (HasFatalFailure()) return;
         }
     }
-    if (!line.empty()) {
-        lines.push_back(line);
-    }
-    return lines;
+};
+
+TEST_P(ProfileRandom, ReadsAsAPlainReadingOfTheLinesDoes) {
+    forAll(1, [](const Arguments& given, Dice&) {
+        ASSERT_EQ(profileValue(given.bytes, given.section, given.key),
+                  plainValue(given.bytes, given.section, given.key))
+            << given;
+    });
 }
 
-std::string joined(const Lines& lines) {
-    std::string text;
-    for (const std::string& line : lines) {
-        text += line;
-    }
-    return text;
+TEST_P(ProfileRandom, WritesAsAPlainWorkOnTheLinesDoes) {
+    forAll(2, [](const Arguments& given, Dice&) {
+        const auto result = changedProfile(given.bytes, {given.section, given.key, given.value});
+        ASSERT_EQ(result.value_or(given.bytes),
+                  plainlyChanged(given.bytes, given.section, given.key, given.value))
+            << given;
+        ASSERT_NE(result, given.bytes) << "a change that changes nothing";
+    });
 }
 
-std::string stripped(const std::string& text, const char* what = " \t\v\r\n") {
-    const auto first = text.find_first_not_of(what);
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(what) - first + 1);
+TEST_P(ProfileRandom, WhatWasWrittenReadsBack) {
+    forAll(3, [](const Arguments& given, Dice&) {
+        const ProfileChange change{given.section, given.key, given.value};
+        const std::string bytes = changedProfile(given.bytes, change).value_or(given.bytes);
+        ASSERT_EQ(profileValue(bytes, given.section, given.key), given.value) << given;
+        ASSERT_EQ(changedProfile(bytes, change), std::nullopt) << given;
+    });
 }
 
-std::string lower(std::string text) {
-    for (char& letter : text) {
-        letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-    }
-    return text;
+TEST_P(ProfileRandom, DeletesAsAPlainWorkOnTheLinesDoes) {
+    forAll(4, [](const Arguments& given, Dice& dice) {
+        const Found key = dice.once(2) ? Found() : Found(given.key);
+        const auto result = changedProfile(given.bytes, {given.section, key, std::nullopt});
+        ASSERT_EQ(result.value_or(given.bytes),
+                  plainlyChanged(given.bytes, given.section, key, std::nullopt))
+            << given << (key ? "" : " (all)");
+        ASSERT_NE(result, given.bytes) << "a change that changes nothing";
+    });
 }
 
-bool isHeader(const std::string& line) {
-    return stripped(line).substr(0, 1) == "[";
-}
-
-std::string headerName(const std::string& line) {
-    const std::string text = stripped(line).substr(1);
-    return lower(stripped(text.substr(0, text.find(']'))));
-}
-
-bool isKey(const std::string& line) {
-    return !isHeader(line) && stripped(line).substr(0, 1) != ";" &&
-           line.find('=') != std::string::npos;
-}
-
-std::string keyName(const std::string& line) {
-    return lower(stripped(line.substr(0, line.find('='))));
-}
-
-std::size_t findHeader(const Lines& lines, const std::string& section) {
-    std::size_t at = 0;
-    while (at < lines.size() && !(isHeader(lines[at]) && headerName(lines[at]) == lower(section))) {
-        ++at;
-    }
-    return at;
-}
-
-std::size_t sectionEnd(const Lines& lines, std::size_t header) {
-    std::size_t at = header + 1;
-    while (at < lines.size() && !isHeader(lines[at])) {
-        ++at;
-    }
-    return std::min(at, lines.size());
-}
-
-std::size_t findKey(const Lines& lines, std::size_t header, const std::string& key) {
-    for (std::size_t at = header + 1; at < sectionEnd(lines, header); ++at) {
-        if (isKey(lines[at]) && keyName(lines[at]) == lower(key)) {
-            return at;
+// Each deletion takes one line of the key away, until there is none.
+TEST_P(ProfileRandom, WhatWasDeletedOftenEnoughIsGone) {
+    forAll(5, [](const Arguments& given, Dice&) {
+        const ProfileChange change{given.section, given.key, std::nullopt};
+        std::string bytes = given.bytes;
+        for (int most = 20; const auto less = changedProfile(bytes, change); --most) {
+            ASSERT_GT(most, 0) << given;
+            bytes = *less;
         }
-    }
-    return lines.size();
+        ASSERT_EQ(profileValue(bytes, given.section, given.key), Found()) << given;
+    });
 }
 
-Found expectedValue(const std::string& text, const std::string& section, const std::string& key) {
-    const Lines lines = cut(text);
-    const std::size_t line = findKey(lines, findHeader(lines, section), key);
-    if (line == lines.size()) {
-        return std::nullopt;
-    }
-    return stripped(lines[line].substr(lines[line].find('=') + 1));
-}
-
-std::string firstLineEnd(const Lines& lines) {
-    const std::string first = lines.empty() ? "" : lines.front();
-    const auto end = first.find_first_of("\r\n");
-    return end == std::string::npos ? "\r\n" : first.substr(end);
-}
-
-std::string withValue(const std::string& line, const std::string& value) {
-    const auto after = line.find('=') + 1;
-    const auto first = std::min(line.find_first_not_of(" \t\v", after), line.size());
-    const std::string old = stripped(line.substr(after));
-    const auto begin = old.empty() ? line.find_last_not_of("\r\n") + 1 : first;
-    return line.substr(0, begin) + value + line.substr(begin + old.size());
-}
-
-void addLine(Lines& lines, std::size_t at, const std::string& line, const std::string& end) {
-    if (at > 0 && lines[at - 1].find_last_of("\r\n") == std::string::npos) {
-        lines[at - 1] += end;
-    }
-    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), line + end);
-}
-
-std::string expectedWrite(const std::string& text, const std::string& section,
-                          const std::string& key, const std::string& value) {
-    Lines lines = cut(text);
-    const std::string end = firstLineEnd(lines);
-    const std::size_t header = findHeader(lines, section);
-    if (header == lines.size()) {
-        addLine(lines, lines.size(), "[" + section + "]", end);
-        addLine(lines, lines.size(), key + "=" + value, end);
-        return joined(lines);
-    }
-    if (const std::size_t line = findKey(lines, header, key); line < lines.size()) {
-        lines[line] = withValue(lines[line], value);
-        return joined(lines);
-    }
-    std::size_t last = header;
-    for (std::size_t at = header + 1; at < sectionEnd(lines, header); ++at) {
-        last = isKey(lines[at]) ? at : last;
-    }
-    addLine(lines, last + 1, key + "=" + value, end);
-    return joined(lines);
-}
-
-std::string expectedDeletion(const std::string& text, const std::string& section,
-                             const Found& key) {
-    Lines lines = cut(text);
-    const std::size_t header = findHeader(lines, section);
-    if (header == lines.size()) {
-        return text;
-    }
-    const std::size_t begin = key ? findKey(lines, header, *key) : header;
-    const std::size_t end = key ? std::min(begin + 1, lines.size()) : sectionEnd(lines, header);
-    lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(begin),
-                lines.begin() + static_cast<std::ptrdiff_t>(end));
-    return joined(lines);
-}
-
-const std::vector<std::string> names{"a", "A", "b", "Ab", "a b", ""};
-
-std::string randomText(Dice& dice) {
-    static const std::vector<std::string> parts{
-        "[",    "]",       "=",    ";",   " ",
-        "\t",   "\v",      "\r",   "\n",  "\r\n",
-        "\r\n", "\n",      "a",    "A",   "b",
-        "Ab",   "a b",     "[a]",  "[b]", "a=",
-        "b=1",  "\n[a]\n", "\na=", "#",   std::string(1, '\0')};
-    std::string text;
-    for (std::size_t count = dice.below(24); count > 0; --count) {
-        text += dice.oneOf(parts);
-    }
-    return text;
-}
-
-TEST(ProfileRandom, ReadsAsAPlainReadingOfTheLinesDoes) {
-    Dice dice(1);
-    for (int round = 0; round < 4000; ++round) {
-        const std::string text = randomText(dice);
-        const std::string section = dice.oneOf(names);
-        const std::string key = dice.oneOf(names);
-        ASSERT_EQ(profileValue(text, section, key), expectedValue(text, section, key))
-            << testing::PrintToString(text) << " [" << section << "] " << key;
-    }
-}
-
-TEST(ProfileRandom, WritesAsAPlainWorkOnTheLinesDoes) {
-    Dice dice(2);
-    for (int round = 0; round < 4000; ++round) {
-        const std::string text = randomText(dice);
-        const std::string section = dice.oneOf(names);
-        const std::string key = dice.oneOf(names);
-        const std::string value = dice.oneOf({"", "x", "a=b", "[a]", ";", "long value"});
-        const auto result = changedProfile(text, {section, key, value});
-        ASSERT_EQ(result.value_or(text), expectedWrite(text, section, key, value))
-            << testing::PrintToString(text) << " [" << section << "] " << key << "=" << value;
-        ASSERT_NE(result, text) << "a change that changes nothing";
-    }
-}
-
-TEST(ProfileRandom, WhatWasWrittenReadsBack) {
-    Dice dice(3);
-    for (int round = 0; round < 2000; ++round) {
-        const std::string text = randomText(dice);
-        const std::string value = dice.oneOf({"x", "é", "Ł", "Ã©", "\xF0\x9F\x8E\xAE", "漢 a"});
-        const std::string mark = dice.oneOf({"", "", "\xEF\xBB\xBF", "; \xE9\n", "; \xC3\xA9\n"});
-        const std::string bytes = changedProfile(mark + text, {"S", "k", value}).value();
-        ASSERT_EQ(profileValue(bytes, "S", "k"), value) << testing::PrintToString(mark + text);
-        ASSERT_EQ(changedProfile(bytes, {"S", "k", value}), std::nullopt);
-    }
-}
-
-TEST(ProfileRandom, DeletesAsAPlainWorkOnTheLinesDoes) {
-    Dice dice(4);
-    for (int round = 0; round < 4000; ++round) {
-        const std::string text = randomText(dice);
-        const std::string section = dice.oneOf(names);
-        const Found key = dice.below(2) == 0 ? Found() : Found(dice.oneOf(names));
-        const auto result = changedProfile(text, {section, key, std::nullopt});
-        ASSERT_EQ(result.value_or(text), expectedDeletion(text, section, key))
-            << testing::PrintToString(text) << " [" << section << "] " << key.value_or("(all)");
-    }
-}
+INSTANTIATE_TEST_SUITE_P(Ascii, ProfileRandom, testing::Values(Case{plainArguments, 4000}));
+INSTANTIATE_TEST_SUITE_P(Letters, ProfileRandom, testing::Values(Case{letterArguments, 10000}));
 
 }  // namespace
 }  // namespace tessaro
