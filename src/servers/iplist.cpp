@@ -50,7 +50,8 @@ void iplist::Unload() {
 }
 
 ServerRecord iplist::entered() {
-    return {fromQt(ui_->Text1->text()), fromQt(ui_->Text2->text()), fromQt(ui_->Text3->text())};
+    return {lineFromQt(ui_->Text1->text()), lineFromQt(ui_->Text2->text()),
+            lineFromQt(ui_->Text3->text())};
 }
 
 void iplist::clearEntered() {

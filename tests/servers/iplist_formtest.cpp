@@ -96,6 +96,15 @@ TEST_F(ServerForm, ServersAreTypedAndAdded) {
     EXPECT_EQ(textOf("Text1") + textOf("Text2") + textOf("Text3"), "");
 }
 
+TEST_F(ServerForm, APastedLineBreakEndsAText) {
+    shown();
+    paste("Text1", "Name\nand more");
+    paste("Text2", "4.4.4.4\r\n");
+    paste("Text3", "44\n4");
+    press("Command2");
+    EXPECT_EQ(rows().at(3), "Name\\4.4.4.4\\44");
+}
+
 TEST_F(ServerForm, AddWithAnEmptyBoxLeavesTheOthersAsTheyAre) {
     shown();
     type("Text1", "Name");

@@ -99,7 +99,7 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
     showPlainText(box);
     const bool accepted = box.exec() == QDialog::Accepted;
     end_.throwIfEnded();
-    return accepted ? fromQt(box.textValue()) : std::string();
+    return accepted ? lineFromQt(box.textValue()) : std::string();
 }
 
 std::string QtDialogs::pickFolder(const std::string& prompt) {
