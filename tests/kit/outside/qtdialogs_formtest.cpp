@@ -97,6 +97,13 @@ TEST_F(InputBox, OffersThePresetAndGivesWhatWasTyped) {
               "d\xC5\xBA");
 }
 
+TEST_F(InputBox, IsWideEnoughForItsTitle) {
+    typed([](QInputDialog& box) {
+        EXPECT_GT(box.width(), 2 * box.fontMetrics().horizontalAdvance(box.windowTitle()));
+        box.reject();
+    });
+}
+
 TEST_F(InputBox, GivesOneLineOfAPastedText) {
     for (const char* pasted : {"one\ntwo", "one\r\ntwo\r\n", "one\n"}) {
         const std::string answer = typed([pasted](QInputDialog& box) {
