@@ -37,6 +37,8 @@ void iplist::setupCommands() {
     on(ui_->Command2, &QPushButton::clicked, forms(), [this] { manager_.add(); });
     on(ui_->Command3, &QPushButton::clicked, forms(), [this] { manager_.remove(); });
     on(ui_->Command4, &QPushButton::clicked, forms(), [this] { manager_.importFavorites(); });
+    for (QLineEdit* box : {ui_->Text1, ui_->Text2, ui_->Text3})
+        on(box, &QLineEdit::returnPressed, forms(), [this] { manager_.add(); });
 }
 
 void iplist::Load() {
@@ -50,7 +52,8 @@ void iplist::Unload() {
 }
 
 ServerRecord iplist::entered() {
-    return {fromQt(ui_->Text1->text()), fromQt(ui_->Text2->text()), fromQt(ui_->Text3->text())};
+    return {lineFromQt(ui_->Text1->text()), lineFromQt(ui_->Text2->text()),
+            lineFromQt(ui_->Text3->text())};
 }
 
 void iplist::clearEntered() {

@@ -97,10 +97,17 @@ TEST(SampleIni, OptionsOfTheGameHaveTheirStockValues) {
 
 TEST(SampleIni, FavouritesAreCountedAndEndInAnEmptyEntry) {
     const auto lines = section(unrealTournamentIni(), "[UBrowser.UBrowserFavoritesFact]");
-    ASSERT_EQ(lines.size(), 10U);
-    EXPECT_EQ(lines.at(1), "FavoriteCount=7");
+    ASSERT_EQ(lines.size(), 13U);
+    EXPECT_EQ(lines.at(1), "FavoriteCount=10");
     EXPECT_EQ(lines.at(2), R"(Favorites[0]=The Harbour Kettle [DM]\192.0.2.14\7778\True)");
-    EXPECT_EQ(lines.back(), "Favorites[7]=");
+    EXPECT_EQ(lines.back(), "Favorites[10]=");
+}
+
+TEST(SampleIni, FavouritesHoldADoubledNameABlankOneAndOneWithExtraFields) {
+    const auto lines = section(unrealTournamentIni(), "[UBrowser.UBrowserFavoritesFact]");
+    EXPECT_EQ(lines.at(5), R"(Favorites[3]=The Harbour Kettle [DM]\192.0.2.15\7778\False)");
+    EXPECT_EQ(lines.at(8), R"(Favorites[6]=\192.0.2.31\7778\False)");
+    EXPECT_EQ(lines.at(9), R"(Favorites[7]=Monster Cellar (co-op)\192.0.2.200\7788\True\7787\8)");
 }
 
 TEST(SampleIni, NumberedLinesCountUpWithoutAGap) {

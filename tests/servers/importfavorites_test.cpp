@@ -9,7 +9,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using ::testing::Not;
 
 class ImportingFavorites : public ServerFixture {
   protected:
@@ -191,9 +190,18 @@ TEST_F(ImportingFavorites, TenThousandComeInOneGo) {
     EXPECT_EQ(rows(), wanted);
 }
 
-TEST_F(ImportingFavorites, TheSampleGamesFavouritesImport) {
+TEST_F(ImportingFavorites, TheSampleGamesFavouritesImportButForTheOneThatIsThereTwice) {
     import(sample::unrealTournamentIni());
-    EXPECT_THAT(rows(), Not(IsEmpty()));
+    EXPECT_THAT(rows(),
+                ElementsAre(R"(The Harbour Kettle [DM]\192.0.2.14\7778)",
+                            R"(|QX| Windmill CTF | no camping\198.51.100.7\7778)",
+                            R"(203.0.113.9\203.0.113.9\8889)",
+                            R"(Tarn's Place - Assault 24/7\203.0.113.77\9001)",
+                            R"(Sunday Siege = Fun\198.51.100.201\7798)", R"(\192.0.2.31\7778)",
+                            R"(Monster Cellar (co-op)\192.0.2.200\7788)",
+                            R"(Grandmasters' Invitational - Tuesday Ladder\192.0.2.77\7778)",
+                            R"(Polite Players Only\203.0.113.120\7778)"));
+    EXPECT_EQ(ini(), sample::unrealTournamentIni());
 }
 
 TEST(ServerNames, TellWhetherARowBearsExactlyThatName) {

@@ -96,6 +96,28 @@ TEST_F(ServerForm, ServersAreTypedAndAdded) {
     EXPECT_EQ(textOf("Text1") + textOf("Text2") + textOf("Text3"), "");
 }
 
+TEST_F(ServerForm, EnterInABoxAddsToo) {
+    shown();
+    for (const char* box : {"Text1", "Text2", "Text3"}) {
+        type("Text1", "Name");
+        type("Text2", "4.4.4.4");
+        type("Text3", "4444");
+        QTest::keyClick(&the<QLineEdit>(box), Qt::Key_Return);
+        EXPECT_EQ(rows().back(), "Name\\4.4.4.4\\4444");
+        EXPECT_EQ(textOf("Text1") + textOf("Text2") + textOf("Text3"), "");
+    }
+    EXPECT_EQ(rows().size(), 6u);
+}
+
+TEST_F(ServerForm, APastedLineBreakEndsAText) {
+    shown();
+    paste("Text1", "Name\nand more");
+    paste("Text2", "4.4.4.4\r\n");
+    paste("Text3", "44\n4");
+    press("Command2");
+    EXPECT_EQ(rows().at(3), "Name\\4.4.4.4\\44");
+}
+
 TEST_F(ServerForm, AddWithAnEmptyBoxLeavesTheOthersAsTheyAre) {
     shown();
     type("Text1", "Name");

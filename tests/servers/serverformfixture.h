@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
@@ -51,6 +52,10 @@ class ServerForm : public GameFormsTest {
     }
     void type(const char* box, const char* text) {
         QTest::keyClicks(&the<QLineEdit>(box), QLatin1String(text));
+    }
+    void paste(const char* box, const char* text) {
+        QGuiApplication::clipboard()->setText(QLatin1String(text));
+        the<QLineEdit>(box).paste();
     }
     std::string textOf(const char* box) { return fromQt(the<QLineEdit>(box).text()); }
     void clickColumn(int column) {

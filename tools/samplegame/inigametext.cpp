@@ -259,15 +259,18 @@ Region=0
 // Addresses are those reserved for documentation, so that nobody's server is ever called.
 std::string_view usedText() {
     return R"ini([UBrowser.UBrowserFavoritesFact]
-FavoriteCount=7
+FavoriteCount=10
 Favorites[0]=The Harbour Kettle [DM]\192.0.2.14\7778\True
 Favorites[1]=|QX| Windmill CTF | no camping\198.51.100.7\7778\False
 Favorites[2]=203.0.113.9\203.0.113.9\8889\False
-Favorites[3]=Tarn's Place - Assault 24/7\203.0.113.77\9001\True
-Favorites[4]=Sunday Siege = Fun\198.51.100.201\7798\False
-Favorites[5]=Monster Cellar (co-op)\192.0.2.200\7788\True
-Favorites[6]=Polite Players Only\203.0.113.120\7778
-Favorites[7]=
+Favorites[3]=The Harbour Kettle [DM]\192.0.2.15\7778\False
+Favorites[4]=Tarn's Place - Assault 24/7\203.0.113.77\9001\True
+Favorites[5]=Sunday Siege = Fun\198.51.100.201\7798\False
+Favorites[6]=\192.0.2.31\7778\False
+Favorites[7]=Monster Cellar (co-op)\192.0.2.200\7788\True\7787\8
+Favorites[8]=Grandmasters' Invitational - Tuesday Ladder\192.0.2.77\7778\True
+Favorites[9]=Polite Players Only\203.0.113.120\7778
+Favorites[10]=
 
 [UBrowser.UBrowserOpenCW]
 OpenHistory[0]=unreal://192.0.2.14:7777

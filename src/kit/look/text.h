@@ -16,6 +16,13 @@ inline std::string fromQt(const QString& text) {
     return text.toStdString();
 }
 
+/// What was typed into a box of one line. Qt's boxes keep the line breaks of what is pasted; the
+/// text ends at the first, or it would be two lines in a file of lines.
+inline std::string lineFromQt(const QString& text) {
+    const std::string all = fromQt(text);
+    return all.substr(0, all.find_first_of("\r\n"));
+}
+
 inline HostPath hostPathFromQt(const QString& path) {
     const std::string bytes = fromQt(path);
     return HostPath(std::u8string(bytes.begin(), bytes.end()));

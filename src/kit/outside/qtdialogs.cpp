@@ -12,6 +12,9 @@
 namespace tessaro {
 namespace {
 
+// Wide enough for a title and for most names; Qt makes the box as wide as its prompt.
+constexpr int inputLetters = 60;
+
 /// What a set of buttons is made of. Enter presses the first button, Esc the last resort.
 struct ButtonSet {
     QMessageBox::StandardButtons all;
@@ -97,9 +100,10 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
     box.setLabelText(toQt(prompt));
     box.setTextValue(toQt(preset));
     showPlainText(box);
+    box.resize(inputLetters * box.fontMetrics().averageCharWidth(), box.sizeHint().height());
     const bool accepted = box.exec() == QDialog::Accepted;
     end_.throwIfEnded();
-    return accepted ? fromQt(box.textValue()) : std::string();
+    return accepted ? lineFromQt(box.textValue()) : std::string();
 }
 
 std::string QtDialogs::pickFolder(const std::string& prompt) {

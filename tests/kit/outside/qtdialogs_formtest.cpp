@@ -97,6 +97,23 @@ TEST_F(InputBox, OffersThePresetAndGivesWhatWasTyped) {
               "d\xC5\xBA");
 }
 
+TEST_F(InputBox, IsWideEnoughForItsTitle) {
+    typed([](QInputDialog& box) {
+        EXPECT_GT(box.width(), 2 * box.fontMetrics().horizontalAdvance(box.windowTitle()));
+        box.reject();
+    });
+}
+
+TEST_F(InputBox, GivesOneLineOfAPastedText) {
+    for (const char* pasted : {"one\ntwo", "one\r\ntwo\r\n", "one\n"}) {
+        const std::string answer = typed([pasted](QInputDialog& box) {
+            box.setTextValue(QString::fromUtf8(pasted));
+            box.accept();
+        });
+        EXPECT_EQ(answer, "one");
+    }
+}
+
 TEST_F(InputBox, GivesAnEmptyTextWhenCancelled) {
     EXPECT_EQ(typed([](QInputDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); }), "");
 }
