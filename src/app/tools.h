@@ -3,6 +3,7 @@
 #include "core/mainparts.h"
 #include "core/program.h"
 #include "kit/forms/forms.h"
+#include "platform/outside/desktop.h"
 
 namespace tessaro {
 
@@ -10,14 +11,17 @@ namespace tessaro {
 /// open them. A new tool joins by its lines in `tools.cpp`, and nowhere else.
 class Tools : public MainParts {
   public:
-    Tools(Forms& forms, Program& program);
+    Tools(Forms& forms, Program& program, Desktop& desktop);
 
     void buildMenus(QMainWindow& window) override;
     std::string loadFolderToCheck() override;
     void showPrefs() override;
+    void setRunType(int mode) override;
 
   private:
     Forms& forms_;
+    Program& program_;
+    Desktop& desktop_;
 };
 
 }  // namespace tessaro
