@@ -16,6 +16,8 @@ namespace {
 constexpr QColor link(150, 205, 255);
 constexpr QColor visitedLink(215, 190, 255);
 
+constexpr int pageMargin = 12;
+
 constexpr QLatin1String errorPage(
     "<h1>This page cannot be shown</h1>"
     "<p>There is nothing at the address</p>"
@@ -48,6 +50,7 @@ webpage::webpage(Forms& forms, Program& program)
       ui_(std::make_unique<Ui::webpageContent>()) {
     setUpContent(*ui_);
     setLinkColours(*ui_->WebBrowser1);
+    ui_->WebBrowser1->document()->setDocumentMargin(pageMargin);
     loadResources();
 }
 
