@@ -24,7 +24,7 @@ Application::Application(int& argc, char** argv)
       program_(*host_, drives_, {dialogs_, sounds_, *processes_, events_},
                runningProgram(*host_, drives_)),
       forms_(dialogs_, programEnd_),
-      tools_(forms_, program_) {
+      tools_(forms_, program_, desktop_) {
     applyProgramStyle(application_);
 }
 

@@ -5,6 +5,7 @@
 
 #include "app/tools.h"
 #include "kit/forms/forms.h"
+#include "kit/outside/qtdesktop.h"
 #include "kit/outside/qtdialogs.h"
 #include "kit/outside/qtevents.h"
 #include "kit/outside/qtsounds.h"
@@ -28,6 +29,7 @@ class Application {
     QtDialogs dialogs_;
     QtSounds sounds_;
     QtEvents events_;
+    QtDesktop desktop_;
     std::unique_ptr<Processes> processes_;
     Program program_;
     Forms forms_;

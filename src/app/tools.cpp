@@ -11,15 +11,23 @@
 #include "servers/iplist.h"
 #include "servers/listeditmenu.h"
 #include "shell/Skinz.h"
+#include "shell/about.h"
+#include "shell/clsSysTray.h"
+#include "shell/help.h"
+#include "shell/links.h"
 #include "shell/menus.h"
+#include "shell/webpage.h"
 
 namespace tessaro {
 
-Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
+Tools::Tools(Forms& forms, Program& program, Desktop& desktop)
+    : forms_(forms), program_(program), desktop_(desktop) {
     MainParts& parts = *this;
     forms.add<MainFrm>(program, parts);
     forms.add<splash>(program);
     forms.add<Skinz>();
+    forms.add<webpage>(program);
+    forms.add<about>(program);
     forms.add<Prefs>(program);
     forms.add<mapext>(program, cacheEntry_);
     forms.add<comp>(program);
@@ -32,6 +40,13 @@ Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
 
 void Tools::buildMenus(QMainWindow& window) {
     const auto exitProgram = [this] { forms_.get<MainFrm>().exitProgram(); };
+    const auto showAbout = [this] { forms_.showModal<about>(); };
+    const auto link = [this](std::string_view item) {
+        return [this, item] { openLink(desktop_, item); };
+    };
+    const auto page = [this](const HelpPage& help) {
+        return [this, &help] { showHelpPage(forms_, program_, help); };
+    };
     tessaro::buildMenus(forms_, window,
                         {
                             {"mnumapextractor", [this] { forms_.show<mapext>(); }},
@@ -43,6 +58,17 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnuripaddr", [this] { forms_.show<iplist>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
+                            {"mnuwwwut", link("mnuwwwut")},
+                            {"mnuwwwplanet", link("mnuwwwplanet")},
+                            {"mnuutitalia", link("mnuutitalia")},
+                            {"mnuunrealfiles", link("mnuunrealfiles")},
+                            {"mnuunreality", link("mnuunreality")},
+                            {"mnuabout", showAbout},
+                            {"mnuraboot", showAbout},
+                            {"mnumehelp", [this] { showHelpBox(program_.dialogs); }},
+                            {"mnuucc", page(consoleHelp)},
+                            {"mnurunserver", page(serverHelp)},
+                            {"mnuserveradmin", page(adminHelp)},
                             {"mnuexit", exitProgram},
                             {"mnurexit", exitProgram},
                         });
@@ -54,6 +80,10 @@ std::string Tools::loadFolderToCheck() {
 
 void Tools::showPrefs() {
     forms_.showModal<Prefs>();
+}
+
+void Tools::setRunType(int mode) {
+    SetRunType(forms_, desktop_, mode);
 }
 
 }  // namespace tessaro

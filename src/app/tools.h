@@ -4,6 +4,7 @@
 #include "core/mainparts.h"
 #include "core/program.h"
 #include "kit/forms/forms.h"
+#include "platform/outside/desktop.h"
 
 namespace tessaro {
 
@@ -11,14 +12,17 @@ namespace tessaro {
 /// open them. A new tool joins by its lines in `tools.cpp`, and nowhere else.
 class Tools : public MainParts {
   public:
-    Tools(Forms& forms, Program& program);
+    Tools(Forms& forms, Program& program, Desktop& desktop);
 
     void buildMenus(QMainWindow& window) override;
     std::string loadFolderToCheck() override;
     void showPrefs() override;
+    void setRunType(int mode) override;
 
   private:
     Forms& forms_;
+    Program& program_;
+    Desktop& desktop_;
 
     // Variables of forms that keep their values while the form is closed.
     CacheEntry cacheEntry_;

@@ -90,6 +90,10 @@ void MainFrm::exitProgram() {
     forms().end();
 }
 
+void MainFrm::SetRunType(int mode) {
+    parts_.setRunType(mode);
+}
+
 bool MainFrm::event(QEvent* event) {
     // Menus have no status texts; their empty ones would wipe ours.
     return event->type() == QEvent::StatusTip || FormWindow<QMainWindow>::event(event);

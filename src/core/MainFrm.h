@@ -13,6 +13,8 @@ class MainFrm;
 
 namespace tessaro {
 
+class clsSysTray;
+
 /// The main window: menus, background picture, status bar. Its Load is the program's start, its
 /// Unload the program's end.
 class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
@@ -35,8 +37,12 @@ class MainFrm : public FormWindow<QMainWindow>, public MainWindow {
 
     /// Ends the program as its menu items do.
     void exitProgram();
+    /// Where the program lives from now on: mode 0 in the task bar, mode 1 in the tray, any other
+    /// mode changes nothing. Nothing calls it at present.
+    void SetRunType(int mode);
 
     clsINI INI;
+    std::shared_ptr<clsSysTray> gSysTray;  ///< empty until `SetRunType` has run
 
   protected:
     bool event(QEvent* event) override;

@@ -16,6 +16,8 @@ class MainParts {
     virtual std::string loadFolderToCheck() = 0;
     /// Returns when the user has left the preferences.
     virtual void showPrefs() = 0;
+    /// Gives the main window its tray object, see `MainFrm::SetRunType`.
+    virtual void setRunType(int mode) = 0;
 };
 
 }  // namespace tessaro

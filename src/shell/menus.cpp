@@ -1,9 +1,11 @@
 #include "shell/menus.h"
 
 #include <QAction>
+#include <QCursor>
 #include <QKeySequence>
 #include <QMenuBar>
 
+#include "core/MainFrm.h"
 #include "kit/forms/handler.h"
 #include "kit/look/text.h"
 #include "shell/menutable.h"
@@ -67,6 +69,12 @@ class Builder {
 void buildMenus(Forms& forms, QMainWindow& window, const MenuCommands& commands) {
     Builder builder(forms, window, commands);
     for (const MenuItem& item : menuItems) builder.add(item);
+}
+
+void showPopupMenu(Forms& forms) {
+    auto* menu = forms.get<MainFrm>().findChild<QMenu*>(toQt(popupMenu));
+    menu->exec(QCursor::pos());
+    forms.throwIfEnded();
 }
 
 }  // namespace tessaro

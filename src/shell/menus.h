@@ -17,4 +17,8 @@ using MenuCommands = std::map<std::string_view, std::function<void()>>;
 /// that is not shown. Every action bears its item's name.
 void buildMenus(Forms& forms, QMainWindow& window, const MenuCommands& commands);
 
+/// Shows the main window's pop-up menu at the mouse; returns when it has closed and what was chosen
+/// there is done.
+void showPopupMenu(Forms& forms);
+
 }  // namespace tessaro

@@ -1,7 +1,9 @@
 #include "shell/menus.h"
 
+#include <QMainWindow>
 #include <QMenuBar>
 #include <map>
+#include <set>
 
 #include "shell/menutable.h"
 #include "support/forms/gameforms.h"
@@ -97,11 +99,26 @@ TEST_F(MenusForm, EveryItemBearsItsName) {
         EXPECT_TRUE(menuItem(name).isSeparator()) << name;
 }
 
-TEST_F(MenusForm, ItemWithoutAToolIsDisabled) {
-    for (const char* name : {"mnuabout", "mnuwwwut", "mnuusermanager", "mnuascii", "mnumehelp"})
-        EXPECT_FALSE(menuItem(name).isEnabled()) << name;
-    for (const char* name : {"mnumapextractor", "mnurmapext", "mnuexit", "mnurexit"})
-        EXPECT_TRUE(menuItem(name).isEnabled()) << name;
+TEST_F(MenusForm, EveryItemDoesSomething) {
+    // Their tools are not there yet.
+    const std::set<std::string> toCome{"mnuinieditor", "mnuusermanager",  "mnuipaddr",
+                                       "mnuascii",     "mnuviewscrnshot", "mnuruserman",
+                                       "mnuripaddr",   "mnurasciiview",   "mnurscrnsht"};
+    std::set<std::string> disabled;
+    for (const MenuItem& item : menuItems) {
+        const std::string name(item.name);
+        if (menu(name.c_str()) == nullptr && !menuItem(name.c_str()).isSeparator() &&
+            !menuItem(name.c_str()).isEnabled())
+            disabled.insert(name);
+    }
+    EXPECT_EQ(disabled, toCome);
+}
+
+TEST_F(MenusForm, AnItemWithoutACommandIsDisabled) {
+    QMainWindow window;
+    buildMenus(forms_, window, {{"mnuexit", [] {}}});
+    EXPECT_TRUE(window.findChild<QAction*>(QStringLiteral("mnuexit"))->isEnabled());
+    EXPECT_FALSE(window.findChild<QAction*>(QStringLiteral("mnurexit"))->isEnabled());
 }
 
 }  // namespace

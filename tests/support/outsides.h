@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/outside/desktop.h"
 #include "platform/outside/events.h"
 #include "platform/outside/processes.h"
 #include "platform/outside/sounds.h"
@@ -47,6 +48,18 @@ class RecordingProcesses : public Processes {
     std::function<void(const std::string& commandLine)> child;
 
     void run(const std::string& commandLine, Visibility visibility) override;
+};
+
+/// Opens nothing and shows no icon; records the addresses and what the tray was told.
+class RecordingDesktop : public Desktop {
+  public:
+    std::vector<std::string> addresses;
+    std::vector<std::pair<TrayAction, NotifyRecord>> notes;
+
+    void openAddress(const std::string& address) override { addresses.push_back(address); }
+    void notifyIcon(TrayAction action, const NotifyRecord& record) override {
+        notes.emplace_back(action, record);
+    }
 };
 
 }  // namespace tessaro::test

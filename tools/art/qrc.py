@@ -1,6 +1,6 @@
-"""Lists the art for the program's resource compiler."""
+"""Lists the art and the help pages for the program's resource compiler."""
 
-FOLDERS = {"sounds": "*.wav", "pictures": "*.png", "icons": "*.png"}
+FOLDERS = {"sounds": "*.wav", "pictures": "*.png", "icons": "*.png", "help": "*"}
 
 
 def make(resources):

@@ -30,10 +30,11 @@ QLabel* makeLabel(QWidget* parent, const char* name) {
     return label;
 }
 
-QPushButton* makeButton(QWidget* parent, const char* name, const char* caption, const char* help) {
+QPushButton* makeButton(QWidget* parent, const char* name, const char* caption,
+                        const std::string& task) {
     auto* button = new QPushButton(QLatin1String(caption), parent);
     button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(QLatin1String(help));
+    button->setAccessibleName(toQt(task));
     button->setAutoDefault(false);
     return button;
 }
@@ -58,7 +59,7 @@ SkinnedForm::SkinnedForm(Forms& forms, const FrameOptions& options)
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setWindowTitle(toQt(options.caption));
     makeFrame(options);
-    makeButtons(options.secondButton);
+    makeButtons(options);
     layOut();
     if (options.dragBy != DragBy::Nothing) addDragHandle(*timg);
     if (options.dragBy == DragBy::PlateAndTitle) addDragHandle(*Title);
@@ -78,11 +79,16 @@ void SkinnedForm::makeFrame(const FrameOptions& options) {
     rightimg->setFixedWidth(sideWidth);
 }
 
-void SkinnedForm::makeButtons(bool secondButton) {
+void SkinnedForm::makeButtons(const FrameOptions& options) {
     CommandX = makeButton(this, "CommandX", "X", "Close");
     CommandX->setToolTip(CommandX->accessibleName());
-    if (!secondButton) return;
-    CommandQ = makeButton(this, "CommandQ", "", "No function");
+    if (!options.secondButton) return;
+    if (options.secondButtonTask.empty()) {
+        CommandQ = makeButton(this, "CommandQ", "", "No function");
+    } else {
+        CommandQ = makeButton(this, "CommandQ", "?", options.secondButtonTask);
+        CommandQ->setToolTip(CommandQ->accessibleName());
+    }
 }
 
 void SkinnedForm::layOut() {

@@ -16,8 +16,10 @@ enum class DragBy { PlateAndTitle, Plate, Nothing };
 struct FrameOptions {
     std::string caption;        ///< the window's name, seen in the task bar
     std::string title;          ///< text of `Title`
-    bool secondButton = false;  ///< `CommandQ`, blank: a form that uses it says what it does
+    bool secondButton = false;  ///< `CommandQ`
     DragBy dragBy = DragBy::PlateAndTitle;
+    /// What `CommandQ` is there for, such as "Help"; it bears a "?" then, and is blank without.
+    std::string secondButtonTask = {};
 };
 
 /// A borderless tool form. It draws its own frame around the content, which the form's Designer
@@ -66,7 +68,7 @@ class SkinnedForm : public FormWindow<QDialog> {
 
   private:
     void makeFrame(const FrameOptions& options);
-    void makeButtons(bool secondButton);
+    void makeButtons(const FrameOptions& options);
     void layOut();
     void completeContent();
     void fitFrame();

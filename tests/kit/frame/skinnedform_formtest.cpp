@@ -44,12 +44,22 @@ class FixedTool : public Tool {
     explicit FixedTool(Forms& forms) : Tool(forms, DragBy::Nothing) {}
 };
 
+class HelpfulTool : public SkinnedForm {
+  public:
+    explicit HelpfulTool(Forms& forms)
+        : SkinnedForm(forms, {.caption = "Chart",
+                              .title = "Chart",
+                              .secondButton = true,
+                              .secondButtonTask = "Help on the chart"}) {}
+};
+
 class SkinnedForms : public test::FormsTest {
   protected:
     SkinnedForms() {
         forms_.add<Tool>();
         forms_.add<PlateTool>();
         forms_.add<FixedTool>();
+        forms_.add<HelpfulTool>();
     }
     template <class T = Tool>
     T& shown() {
@@ -143,6 +153,20 @@ TEST_F(SkinnedForms, TheCloseButtonClosesAndTellsWhatItIs) {
     EXPECT_EQ(form.CommandX->toolTip(), QStringLiteral("Close"));
     QTest::mouseClick(form.CommandX, Qt::LeftButton);
     EXPECT_EQ(forms_.loaded<Tool>(), nullptr);
+}
+
+TEST_F(SkinnedForms, ASecondButtonWithATaskBearsAQuestionMarkAndTellsTheTask) {
+    const HelpfulTool& form = shown<HelpfulTool>();
+    EXPECT_EQ(form.CommandQ->text(), QStringLiteral("?"));
+    EXPECT_EQ(form.CommandQ->accessibleName(), QStringLiteral("Help on the chart"));
+    EXPECT_EQ(form.CommandQ->toolTip(), QStringLiteral("Help on the chart"));
+}
+
+TEST_F(SkinnedForms, ASecondButtonWithoutATaskIsBlankAndSaysSo) {
+    const Tool& form = shown();
+    EXPECT_EQ(form.CommandQ->text(), QString());
+    EXPECT_EQ(form.CommandQ->accessibleName(), QStringLiteral("No function"));
+    EXPECT_EQ(form.CommandQ->toolTip(), QString());
 }
 
 TEST_F(SkinnedForms, EnterInATextBoxDoesNotClose) {

@@ -27,7 +27,8 @@ class FormsTest : public ::testing::Test {
     Program& program_ = world_.program;
     ProgramEnd end_;
     Forms forms_{world_.dialogs, end_};
-    Tools tools_{forms_, program_};
+    RecordingDesktop desktop_;
+    Tools tools_{forms_, program_, desktop_};
 };
 
 /// Serves what is pending.
