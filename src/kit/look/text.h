@@ -16,6 +16,10 @@ inline std::string fromQt(const QString& text) {
     return text.toStdString();
 }
 
+inline QString hostPathToQt(const HostPath& path) {
+    const std::u8string bytes = path.u8string();
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
 inline HostPath hostPathFromQt(const QString& path) {
     const std::string bytes = fromQt(path);
     return HostPath(std::u8string(bytes.begin(), bytes.end()));
