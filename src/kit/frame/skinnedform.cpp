@@ -122,6 +122,14 @@ void SkinnedForm::completeContent() {
            designed.height() + 2 * border + strut_->minimumHeight() + bottomHeight);
 }
 
+void SkinnedForm::setTitle(const QString& title) {
+    const int room = int(width() * plateShare) - capsWidth();
+    Title->setText(Title->fontMetrics().elidedText(title, Qt::ElideMiddle, room));
+    Title->setToolTip(title);
+    Title->setAccessibleName(title);
+    fitFrame();
+}
+
 void SkinnedForm::addDragHandle(QWidget& handle) {
     handle.installEventFilter(this);
 }
@@ -175,10 +183,14 @@ void SkinnedForm::fitFrame() {
     strut_->setFixedHeight(std::max(bandHeight, letter + 14));
     Title->adjustSize();
     const int buttonsWidth = CommandQ != nullptr ? 2 * buttonSize + 10 : buttonSize + 7;
-    const int caps = 2 * PlateLabel::capWidth * strut_->minimumHeight() / PlateLabel::pictureHeight;
-    timg->setMinimumWidth(Title->width() + caps);
+    timg->setMinimumWidth(Title->width() + capsWidth());
     strut_->setMinimumWidth(timg->minimumWidth() + buttonsWidth);
     placeTitle();
+}
+
+/// Of the plate's two ends, which grow with its height.
+int SkinnedForm::capsWidth() const {
+    return 2 * PlateLabel::capWidth * strut_->minimumHeight() / PlateLabel::pictureHeight;
 }
 
 void SkinnedForm::placeTitle() {

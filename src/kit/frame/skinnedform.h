@@ -50,6 +50,9 @@ class SkinnedForm : public FormWindow<QDialog> {
     QPushButton* CommandX;
     QPushButton* CommandQ = nullptr;  ///< only if asked for
 
+    /// Changes the text of `Title`: as much of it as the plate has room for, its tip tells all.
+    void setTitle(const QString& title);
+
     /// Lets the form be moved by one more control.
     void addDragHandle(QWidget& handle);
 
@@ -70,6 +73,7 @@ class SkinnedForm : public FormWindow<QDialog> {
     void layOut();
     void completeContent();
     void fitFrame();
+    int capsWidth() const;
     void placeTitle();
     void focusFirstControl();
 
