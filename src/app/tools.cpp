@@ -7,6 +7,9 @@
 #include "compress/decomp2.h"
 #include "core/MainFrm.h"
 #include "core/splash.h"
+#include "editor/findfrm.h"
+#include "editor/inieditor.h"
+#include "editor/inieditorpopup.h"
 #include "prefs/Prefs.h"
 #include "shell/Skinz.h"
 #include "shell/menus.h"
@@ -24,6 +27,9 @@ Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
     forms.add<comp2>(program);
     forms.add<decomp>(program);
     forms.add<decomp2>(program);
+    forms.add<inieditor>(program, editor_);
+    forms.add<inieditorpopup>();
+    forms.add<findfrm>(program);
 }
 
 void Tools::buildMenus(QMainWindow& window) {
@@ -35,6 +41,7 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnumapcompress", [this] { forms_.show<comp>(); }},
                             {"mnurcompress", [this] { forms_.show<comp>(); }},
                             {"mnudecomp", [this] { forms_.show<decomp>(); }},
+                            {"mnuinieditor", [this] { forms_.show<inieditor>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
                             {"mnuexit", exitProgram},

@@ -2,6 +2,7 @@
 
 #include "core/mainparts.h"
 #include "core/program.h"
+#include "editor/editor.h"
 #include "kit/forms/forms.h"
 
 namespace tessaro {
@@ -18,6 +19,7 @@ class Tools : public MainParts {
 
   private:
     Forms& forms_;
+    EditorMemory editor_;
 };
 
 }  // namespace tessaro
