@@ -46,6 +46,7 @@ void inieditor::setupLabels() {
         label->move(left, pixels(menuTop) - label->height());
         left += label->width();
     }
+    setMinimumWidth(left * 5);  // the plate leaves a fifth on either side
     setTabOrder(ui_->Text1, ui_->fakefile);
     setTabOrder(ui_->fakefile, ui_->fakedit);
     setTabOrder(ui_->fakedit, CommandX);

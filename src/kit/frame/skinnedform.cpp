@@ -22,6 +22,7 @@ constexpr int bottomHeight = 14;
 constexpr int bandHeight = 32;
 constexpr double plateShare = 0.6;  // of the form's width
 constexpr int contentMargin = 6;
+constexpr int lettersSeen = 24;  // of a title, however narrow the form is
 
 template <class Label>
 QLabel* makeLabel(QWidget* parent, const char* name) {
@@ -70,7 +71,7 @@ void SkinnedForm::makeFrame(const FrameOptions& options) {
     bimg = makeLabel<BarLabel>(this, "bimg");
     leftimg = makeLabel<BarLabel>(this, "leftimg");
     rightimg = makeLabel<BarLabel>(this, "rightimg");
-    Title = makeLabel<QLabel>(this, "Title");
+    Title = makeLabel<TitleLabel>(this, "Title");
     Title->setTextFormat(Qt::PlainText);
     Title->setText(toQt(options.title));
     bimg->setFixedHeight(bottomHeight);
@@ -123,10 +124,8 @@ void SkinnedForm::completeContent() {
 }
 
 void SkinnedForm::setTitle(const QString& title) {
-    const int room = int(width() * plateShare) - capsWidth();
-    Title->setText(Title->fontMetrics().elidedText(title, Qt::ElideMiddle, room));
+    Title->setText(title);
     Title->setToolTip(title);
-    Title->setAccessibleName(title);
     fitFrame();
 }
 
@@ -181,9 +180,9 @@ void SkinnedForm::fitFrame() {
     for (QPushButton* button : {CommandX, CommandQ})
         if (button != nullptr) button->setFixedSize(buttonSize, buttonSize);
     strut_->setFixedHeight(std::max(bandHeight, letter + 14));
-    Title->adjustSize();
     const int buttonsWidth = CommandQ != nullptr ? 2 * buttonSize + 10 : buttonSize + 7;
-    timg->setMinimumWidth(Title->width() + capsWidth());
+    const int wholeTitle = Title->fontMetrics().averageCharWidth() * lettersSeen;
+    timg->setMinimumWidth(std::min(Title->sizeHint().width(), wholeTitle) + capsWidth());
     strut_->setMinimumWidth(timg->minimumWidth() + buttonsWidth);
     placeTitle();
 }
@@ -196,6 +195,7 @@ int SkinnedForm::capsWidth() const {
 void SkinnedForm::placeTitle() {
     const int plateWidth = std::max(int(width() * plateShare), timg->minimumWidth());
     timg->setGeometry(timg->x(), border, plateWidth, strut_->minimumHeight());
+    Title->resize(Title->sizeHint().boundedTo(timg->size() - QSize(capsWidth(), 0)));
     Title->move(Title->x(), border + (strut_->minimumHeight() - Title->height()) / 2);
     centreAcross(*this, *timg);
     centreAcross(*this, *Title);

@@ -50,7 +50,7 @@ class SkinnedForm : public FormWindow<QDialog> {
     QPushButton* CommandX;
     QPushButton* CommandQ = nullptr;  ///< only if asked for
 
-    /// Changes the text of `Title`: as much of it as the plate has room for, its tip tells all.
+    /// Changes the text of `Title`.
     void setTitle(const QString& title);
 
     /// Lets the form be moved by one more control.
