@@ -16,6 +16,8 @@ class NoDialogs : public Dialogs {
         return {};
     }
     std::string pickFolder(const std::string&) override { return {}; }
+    std::string pickFileToOpen(const FilePicker&) override { return {}; }
+    std::string pickFileToSave(const FilePicker&) override { return {}; }
 };
 
 class NoSounds : public Sounds {

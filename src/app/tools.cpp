@@ -7,6 +7,9 @@
 #include "compress/decomp2.h"
 #include "core/MainFrm.h"
 #include "core/splash.h"
+#include "editor/findfrm.h"
+#include "editor/inieditor.h"
+#include "editor/inieditorpopup.h"
 #include "prefs/Prefs.h"
 #include "servers/iplist.h"
 #include "servers/listeditmenu.h"
@@ -36,6 +39,9 @@ Tools::Tools(Forms& forms, Program& program, Desktop& desktop)
     forms.add<decomp2>(program);
     forms.add<iplist>(program);
     forms.add<listeditmenu>();
+    forms.add<inieditor>(program, editor_);
+    forms.add<inieditorpopup>();
+    forms.add<findfrm>(program);
 }
 
 void Tools::buildMenus(QMainWindow& window) {
@@ -56,6 +62,7 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnudecomp", [this] { forms_.show<decomp>(); }},
                             {"mnuipaddr", [this] { forms_.show<iplist>(); }},
                             {"mnuripaddr", [this] { forms_.show<iplist>(); }},
+                            {"mnuinieditor", [this] { forms_.show<inieditor>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
                             {"mnuwwwut", link("mnuwwwut")},

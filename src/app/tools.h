@@ -3,6 +3,7 @@
 #include "cache/cacheindex.h"
 #include "core/mainparts.h"
 #include "core/program.h"
+#include "editor/editor.h"
 #include "kit/forms/forms.h"
 #include "platform/outside/desktop.h"
 
@@ -26,6 +27,7 @@ class Tools : public MainParts {
 
     // Variables of forms that keep their values while the form is closed.
     CacheEntry cacheEntry_;
+    EditorMemory editor_;
 };
 
 }  // namespace tessaro

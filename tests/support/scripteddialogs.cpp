@@ -38,6 +38,7 @@ ScriptedDialogs::~ScriptedDialogs() {
     EXPECT_TRUE(answers_.empty()) << "A message box did not come";
     EXPECT_TRUE(texts_.empty()) << "An input box did not come";
     EXPECT_TRUE(folders_.empty()) << "A folder picker did not come";
+    EXPECT_TRUE(files_.empty()) << "A file picker did not come";
 }
 
 Answer ScriptedDialogs::message(const Message& message) {
@@ -57,6 +58,21 @@ std::string ScriptedDialogs::pickFolder(const std::string& prompt) {
     pickers.push_back(prompt);
     if (whileOpen) whileOpen();
     return next(folders_, prompt, std::string());
+}
+
+std::string ScriptedDialogs::pickFileToOpen(const FilePicker& picker) {
+    openPickers.push_back(picker);
+    return nextFile("Open " + picker.folder);
+}
+
+std::string ScriptedDialogs::pickFileToSave(const FilePicker& picker) {
+    savePickers.push_back(picker);
+    return nextFile(picker.title + ": " + picker.name);
+}
+
+std::string ScriptedDialogs::nextFile(const std::string& box) {
+    if (whileOpen) whileOpen();
+    return next(files_, box, std::string());
 }
 
 }  // namespace tessaro::test

@@ -23,6 +23,8 @@ class Form {
     virtual void Load() {}
     /// Asked when the user closes the form; false keeps it open.
     virtual bool QueryUnload() { return true; }
+    /// Asked when the main window takes all forms with it; false keeps this one.
+    virtual bool QueryUnloadAll() { return true; }
     virtual void Unload() {}
 
     Forms& forms() { return forms_; }

@@ -63,9 +63,13 @@ void Forms::showModal(Form& form) {
 }
 
 void Forms::close(Form& form) {
+    unloadIf(&Form::QueryUnload, form);
+}
+
+void Forms::unloadIf(bool (Form::*agrees)(), Form& form) {
     const Entry* entry = find(form);
     if (entry == nullptr || entry->unloading) return;
-    if (form.QueryUnload()) unload(form);
+    if ((form.*agrees)()) unload(form);
 }
 
 void Forms::unload(Form& form) {
@@ -98,7 +102,7 @@ void Forms::UnloadAllForms() {
     std::vector<Form*> all;
     for (const auto& entry : entries_) all.push_back(entry->form.get());
     const Running running(*this);  // keeps what is unloaded alive, so no address is used twice
-    for (Form* form : all) attempt([&] { unload(*form); });
+    for (Form* form : all) attempt([&] { unloadIf(&Form::QueryUnloadAll, *form); });
 }
 
 int Forms::run() {

@@ -62,7 +62,8 @@ class Forms {
     void close(Form& form);
     /// Runs Unload and lets the form go, also if Unload fails; the error passes on.
     void unload(Form& form);
-    /// In the order in which they were loaded. An error in one does not keep the others.
+    /// Unloads what does not refuse, in the order of loading. An error in one does not keep the
+    /// others.
     void UnloadAllForms();
 
     bool isLoaded(const Form& form) const { return find(form) != nullptr; }
@@ -99,6 +100,7 @@ class Forms {
     Form* find(std::type_index type) const;
     Entry* find(const Form& form) const;
     Form& load(std::type_index type);
+    void unloadIf(bool (Form::*agrees)(), Form& form);
     void letGo(Form& form);
     void leave();
     void bury();

@@ -1,6 +1,7 @@
 #include "kit/frame/picturelabels.h"
 
 #include <QPainter>
+#include <QStyle>
 
 namespace tessaro {
 
@@ -18,6 +19,13 @@ void PlateLabel::paintEvent(QPaintEvent*) {
                        QRectF(from, 0, middle, picture.height()));
     painter.drawPixmap(QRectF(width() - cap, 0, cap, height()), picture,
                        QRectF(from + middle, 0, from, picture.height()));
+}
+
+void TitleLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
+    style()->drawItemText(&painter, rect(), Qt::AlignCenter, palette(), isEnabled(), shown,
+                          foregroundRole());
 }
 
 }  // namespace tessaro

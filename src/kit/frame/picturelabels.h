@@ -27,4 +27,14 @@ class PlateLabel : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 };
 
+/// A title on a plate: shows as much of its text as there is room for.
+class TitleLabel : public QLabel {
+    Q_OBJECT
+  public:
+    explicit TitleLabel(QWidget* parent) : QLabel(parent) {}
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 }  // namespace tessaro

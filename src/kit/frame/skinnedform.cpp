@@ -22,6 +22,7 @@ constexpr int bottomHeight = 14;
 constexpr int bandHeight = 32;
 constexpr double plateShare = 0.6;  // of the form's width
 constexpr int contentMargin = 6;
+constexpr int lettersSeen = 24;  // of a title, however narrow the form is
 
 template <class Label>
 QLabel* makeLabel(QWidget* parent, const char* name) {
@@ -71,7 +72,7 @@ void SkinnedForm::makeFrame(const FrameOptions& options) {
     bimg = makeLabel<BarLabel>(this, "bimg");
     leftimg = makeLabel<BarLabel>(this, "leftimg");
     rightimg = makeLabel<BarLabel>(this, "rightimg");
-    Title = makeLabel<QLabel>(this, "Title");
+    Title = makeLabel<TitleLabel>(this, "Title");
     Title->setTextFormat(Qt::PlainText);
     Title->setText(toQt(options.title));
     bimg->setFixedHeight(bottomHeight);
@@ -128,6 +129,12 @@ void SkinnedForm::completeContent() {
            designed.height() + 2 * border + strut_->minimumHeight() + bottomHeight);
 }
 
+void SkinnedForm::setTitle(const QString& title) {
+    Title->setText(title);
+    Title->setToolTip(title);
+    fitFrame();
+}
+
 void SkinnedForm::addDragHandle(QWidget& handle) {
     handle.installEventFilter(this);
 }
@@ -179,17 +186,22 @@ void SkinnedForm::fitFrame() {
     for (QPushButton* button : {CommandX, CommandQ})
         if (button != nullptr) button->setFixedSize(buttonSize, buttonSize);
     strut_->setFixedHeight(std::max(bandHeight, letter + 14));
-    Title->adjustSize();
     const int buttonsWidth = CommandQ != nullptr ? 2 * buttonSize + 10 : buttonSize + 7;
-    const int caps = 2 * PlateLabel::capWidth * strut_->minimumHeight() / PlateLabel::pictureHeight;
-    timg->setMinimumWidth(Title->width() + caps);
+    const int wholeTitle = Title->fontMetrics().averageCharWidth() * lettersSeen;
+    timg->setMinimumWidth(std::min(Title->sizeHint().width(), wholeTitle) + capsWidth());
     strut_->setMinimumWidth(timg->minimumWidth() + buttonsWidth);
     placeTitle();
+}
+
+/// Of the plate's two ends, which grow with its height.
+int SkinnedForm::capsWidth() const {
+    return 2 * PlateLabel::capWidth * strut_->minimumHeight() / PlateLabel::pictureHeight;
 }
 
 void SkinnedForm::placeTitle() {
     const int plateWidth = std::max(int(width() * plateShare), timg->minimumWidth());
     timg->setGeometry(timg->x(), border, plateWidth, strut_->minimumHeight());
+    Title->resize(Title->sizeHint().boundedTo(timg->size() - QSize(capsWidth(), 0)));
     Title->move(Title->x(), border + (strut_->minimumHeight() - Title->height()) / 2);
     centreAcross(*this, *timg);
     centreAcross(*this, *Title);

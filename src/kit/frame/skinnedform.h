@@ -52,6 +52,9 @@ class SkinnedForm : public FormWindow<QDialog> {
     QPushButton* CommandX;
     QPushButton* CommandQ = nullptr;  ///< only if asked for
 
+    /// Changes the text of `Title`.
+    void setTitle(const QString& title);
+
     /// Lets the form be moved by one more control.
     void addDragHandle(QWidget& handle);
 
@@ -72,6 +75,7 @@ class SkinnedForm : public FormWindow<QDialog> {
     void layOut();
     void completeContent();
     void fitFrame();
+    int capsWidth() const;
     void placeTitle();
     void focusFirstControl();
 

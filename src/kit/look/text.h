@@ -23,6 +23,11 @@ inline std::string lineFromQt(const QString& text) {
     return all.substr(0, all.find_first_of("\r\n"));
 }
 
+inline QString hostPathToQt(const HostPath& path) {
+    const std::u8string bytes = path.u8string();
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
 inline HostPath hostPathFromQt(const QString& path) {
     const std::string bytes = fromQt(path);
     return HostPath(std::u8string(bytes.begin(), bytes.end()));

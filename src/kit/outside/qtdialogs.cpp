@@ -2,12 +2,14 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 
 #include "kit/look/text.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 namespace {
@@ -74,6 +76,17 @@ void showPlainText(const QWidget& dialog) {
     for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
 }
 
+/// `filter` holds words, a bar and a pattern. The words are shown as they are; Qt by itself would
+/// read them for a pattern, and take "*.*" for names with a dot only.
+void setFilter(QFileDialog& box, const std::string& filter) {
+    const QStringList parts = toQt(filter).split(QLatin1Char('|'));
+    const QString pattern =
+        parts.value(1) == QStringLiteral("*.*") ? QStringLiteral("*") : parts.value(1);
+    box.setNameFilter(QStringLiteral("files (%1)").arg(pattern));
+    if (auto* kinds = box.findChild<QComboBox*>(QStringLiteral("fileTypeCombo")))
+        kinds->setItemText(0, parts.value(0));
+}
+
 }  // namespace
 
 Answer QtDialogs::message(const Message& message) {
@@ -112,6 +125,36 @@ std::string QtDialogs::pickFolder(const std::string& prompt) {
     box.setOption(QFileDialog::DontUseNativeDialog);
     box.setFileMode(QFileDialog::Directory);
     box.setOption(QFileDialog::ShowDirsOnly);
+    return picked(box);
+}
+
+std::string QtDialogs::pickFileToOpen(const FilePicker& picker) {
+    QFileDialog box(owner());
+    return pickFile(box, picker);
+}
+
+std::string QtDialogs::pickFileToSave(const FilePicker& picker) {
+    QFileDialog box(owner());
+    box.setAcceptMode(QFileDialog::AcceptSave);
+    return pickFile(box, picker);
+}
+
+std::string QtDialogs::pickFile(QFileDialog& box, const FilePicker& picker) {
+    box.setObjectName(QStringLiteral("filePicker"));
+    box.setOption(QFileDialog::DontUseNativeDialog);
+    box.setOption(QFileDialog::DontConfirmOverwrite);
+    box.setFileMode(QFileDialog::AnyFile);
+    if (!picker.title.empty()) box.setWindowTitle(toQt(picker.title));
+    setFilter(box, picker.filter);
+    attempt([&] {
+        if (const auto folder = paths_.find(picker.folder))
+            box.setDirectory(hostPathToQt(*folder));
+    });
+    box.selectFile(toQt(picker.name));
+    return picked(box);
+}
+
+std::string QtDialogs::picked(QFileDialog& box) {
     const bool accepted = box.exec() == QDialog::Accepted;
     end_.throwIfEnded();
     if (!accepted || box.selectedFiles().isEmpty()) return {};

@@ -4,10 +4,12 @@
 #include "platform/files/paths.h"
 #include "platform/outside/dialogs.h"
 
+class QFileDialog;
+
 namespace tessaro {
 
 /// The program's boxes. This is the only unit that shows any. Their object names are "messageBox",
-/// "inputBox" and "folderPicker". Texts are shown as they are, never read as markup.
+/// "inputBox", "folderPicker" and "filePicker". Texts are shown as they are, never read as markup.
 class QtDialogs : public Dialogs {
   public:
     QtDialogs(const ProgramEnd& programEnd, Host& host, DriveMap drives)
@@ -17,10 +19,15 @@ class QtDialogs : public Dialogs {
     std::string input(const std::string& prompt, const std::string& title,
                       const std::string& preset) override;
     std::string pickFolder(const std::string& prompt) override;
+    std::string pickFileToOpen(const FilePicker& picker) override;
+    std::string pickFileToSave(const FilePicker& picker) override;
 
   private:
+    std::string pickFile(QFileDialog& box, const FilePicker& picker);
+    std::string picked(QFileDialog& box);
+
     const ProgramEnd& end_;
-    Paths paths_;  // turns what the picker gives into the game's form, nothing else
+    Paths paths_;  // the pickers' folders and files, from and into the game's form, nothing else
 };
 
 }  // namespace tessaro

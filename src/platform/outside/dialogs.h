@@ -17,6 +17,15 @@ struct Message {
     bool operator==(const Message&) const = default;
 };
 
+/// What a file picker shows.
+struct FilePicker {
+    std::string title;      ///< an empty one leaves the picker its own
+    std::string filter;     ///< the one kind of files listed: "INI files(*.ini)|*.ini|"
+    std::string folder;     ///< where it opens, in the game's form, if that is there
+    std::string name = {};  ///< proposed
+    bool operator==(const FilePicker&) const = default;
+};
+
 /// The one door for questions. Each call returns when the user has answered.
 class Dialogs {
   public:
@@ -27,6 +36,10 @@ class Dialogs {
                               const std::string& preset) = 0;
     /// A folder in the game's form, or an empty text if the user cancelled.
     virtual std::string pickFolder(const std::string& prompt) = 0;
+    /// A file in the game's form, or an empty text if the user cancelled. The file need not exist.
+    virtual std::string pickFileToOpen(const FilePicker& picker) = 0;
+    /// The same; a file that exists is picked without a further question.
+    virtual std::string pickFileToSave(const FilePicker& picker) = 0;
 };
 
 }  // namespace tessaro

@@ -40,11 +40,13 @@ class Recorder : public FormWindow<QDialog> {
         note("QueryUnload");
         return !refuses;
     }
+    bool QueryUnloadAll() override { return !staysBehind; }
     void Unload() override {
         note("Unload");
         if (failure != 0) throw RunTimeError(failure);
     }
     bool refuses = false;
+    bool staysBehind = false;
     int failure = 0;
 
   private:
@@ -197,6 +199,14 @@ TEST_F(FormRegistry, AllFormsAreUnloadedInLoadingOrder) {
     forms_.UnloadAllForms();
     EXPECT_TRUE(forms_.empty());
     EXPECT_THAT(events, ElementsAre("Unload 2", "Unload 1"));
+}
+
+TEST_F(FormRegistry, AFormMayRefuseToGoWithAllOthers) {
+    forms_.get<First>().staysBehind = true;
+    forms_.get<Second>();
+    forms_.UnloadAllForms();
+    EXPECT_NE(forms_.loaded<First>(), nullptr);
+    EXPECT_EQ(forms_.loaded<Second>(), nullptr);
 }
 
 TEST_F(FormRegistry, AnErrorInOneFormDoesNotKeepTheOthersLoaded) {

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -141,6 +144,110 @@ TEST_F(FolderPicker, GivesTheFolderInTheGamesForm) {
 
 TEST_F(FolderPicker, GivesAnEmptyTextWhenCancelled) {
     EXPECT_EQ(picked([](QFileDialog& box) { box.reject(); }), "");
+}
+
+class FilePickers : public RealDialogs {
+  protected:
+    FilePickers() {
+        world_.world.write("C:\\UT\\System\\User.INI", "[Mine]\r\n");
+        world_.world.write("C:\\UT\\System\\Readme", "");
+    }
+
+    using Act = std::function<void(QFileDialog&)>;
+
+    std::string picked(std::string (QtDialogs::*pick)(const FilePicker&), const Act& act) {
+        const auto box = [] { return visibleWindow<QFileDialog>("filePicker"); };
+        const WhenItComes answer([&] { return box() != nullptr; }, [&] { act(*box()); });
+        return (dialogs_.*pick)(picker_);
+    }
+    std::string opened(const Act& act) { return picked(&QtDialogs::pickFileToOpen, act); }
+    std::string saved(const Act& act) { return picked(&QtDialogs::pickFileToSave, act); }
+
+    static QLineEdit& nameField(const QFileDialog& box) {
+        return *box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    }
+    static void enter(const QFileDialog& box, const QString& name) {
+        nameField(box).setText(name);
+        QTest::keyClick(&nameField(box), Qt::Key_Return);
+    }
+    /// Whether the box lists the file, once it has read its folder.
+    static bool lists(const QFileDialog& box, const QString& name) {
+        const auto* view = box.findChild<QListView*>(QStringLiteral("listView"));
+        const QAbstractItemModel* model = view->model();
+        const auto found = [&] {
+            return !model->match(model->index(0, 0, view->rootIndex()), Qt::DisplayRole, name, 1)
+                        .isEmpty();
+        };
+        return QTest::qWaitFor(found);
+    }
+    QString systemFolder() const {
+        return QString::fromStdString(world_.world.at("C:\\UT\\System").string());
+    }
+
+    FilePicker picker_{"", "All UT .ini Files(*.ini)|*.ini|", "C:\\ut\\system"};
+};
+
+TEST_F(FilePickers, OpenInTheFolderToldAndListTheFilesOfTheirKind) {
+    opened([&](QFileDialog& box) {
+        EXPECT_EQ(box.directory().path(), systemFolder());
+        EXPECT_EQ(box.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentText(),
+                  QStringLiteral("All UT .ini Files(*.ini)"));
+        EXPECT_TRUE(lists(box, QStringLiteral("User.INI")));
+        EXPECT_EQ(box.nameFilters(), QStringList(QStringLiteral("files (*.ini)")));
+        box.reject();
+    });
+}
+
+TEST_F(FilePickers, AllFilesAreThoseWithoutADotToo) {
+    picker_.filter = "All File Types(*.*)|*.*|";
+    saved([&](QFileDialog& box) {
+        EXPECT_EQ(box.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentText(),
+                  QStringLiteral("All File Types(*.*)"));
+        EXPECT_TRUE(lists(box, QStringLiteral("Readme")));
+        box.reject();
+    });
+}
+
+TEST_F(FilePickers, GiveTheFileInTheGamesForm) {
+    EXPECT_EQ(opened([](QFileDialog& box) { enter(box, QStringLiteral("User.INI")); }),
+              "C:\\UT\\System\\User.INI");
+}
+
+TEST_F(FilePickers, GiveAFileToOpenThatIsNotThere) {
+    EXPECT_EQ(opened([](QFileDialog& box) { enter(box, QStringLiteral("New.ini")); }),
+              "C:\\UT\\System\\New.ini");
+}
+
+TEST_F(FilePickers, ProposeTheNameToldUnderTheTitleTold) {
+    picker_.title = "Save File As";
+    picker_.name = "Untitled.ini";
+    const std::string file = saved([](QFileDialog& box) {
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Save File As"));
+        EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(nameField(box).text(), QStringLiteral("Untitled.ini"));
+        QTest::keyClick(&nameField(box), Qt::Key_Return);
+    });
+    EXPECT_EQ(file, "C:\\UT\\System\\Untitled.ini");
+}
+
+TEST_F(FilePickers, AskNothingAboutAFileThatIsThere) {
+    EXPECT_EQ(saved([](QFileDialog& box) { enter(box, QStringLiteral("User.INI")); }),
+              "C:\\UT\\System\\User.INI");
+}
+
+TEST_F(FilePickers, OpenSomewhereIfTheFolderIsNotThere) {
+    for (const char* folder : {"C:\\Gone", "Q:\\Gone", ""}) {
+        picker_.folder = folder;
+        EXPECT_EQ(opened([](QFileDialog& box) {
+                      EXPECT_TRUE(box.directory().exists());
+                      box.reject();
+                  }),
+                  "");
+    }
+}
+
+TEST_F(FilePickers, TheEndOfTheProgramUnwindsTheirCaller) {
+    EXPECT_THROW(opened([this](QFileDialog&) { end_.end(); }), ProgramEnded);
 }
 
 }  // namespace
