@@ -95,10 +95,12 @@ std::vector<std::string> Files::listFolder(std::string_view folder, std::string_
     const auto path = paths_.find(folder);
     if (!path || !isFolder(host_, *path)) return {};
     std::vector<std::string> names;
-    for (std::string& each : host_.list(*path)) {
-        std::string name = gameName(each);
+    for (const ListedName& each : host_.listNames(*path)) {
+        std::string name = gameName(each.name);
         if (!matchesWildcard(pattern, name)) continue;
-        if (isWanted(host_, *path / each, attributes)) names.push_back(std::move(name));
+        // Plain files are always wanted; to ask for each would take most of a listing's time.
+        if (each.plainFile || isWanted(host_, *path / each.name, attributes))
+            names.push_back(std::move(name));
     }
     sortNames(names);
     const bool root = paths_.absolute(folder).ends_with('\\');

@@ -78,6 +78,14 @@ class FolderLock {
     virtual ~FolderLock() = default;
 };
 
+/// A name in a folder, with what a listing tells of it at no further cost.
+struct ListedName {
+    std::string name;
+    /// Whether this is for sure a file, and neither a hidden nor a system one; if not, `status`
+    /// tells.
+    bool plainFile = false;
+};
+
 /// What the program asks of the operating system's files. Links are followed. Every member raises
 /// RunTimeError with the number that fits the host's error, 52 for a name that no file can bear
 /// (one with a NUL in it); the failing twin of the tests raises where it is told to.
@@ -90,6 +98,12 @@ class Host {
     virtual std::optional<HostStatus> status(const HostPath& path) = 0;
     /// Names in a folder, in the host's order, without "." and "..".
     virtual std::vector<std::string> list(const HostPath& folder) = 0;
+    /// The same with what the host's listing tells besides.
+    virtual std::vector<ListedName> listNames(const HostPath& folder) {
+        std::vector<ListedName> names;
+        for (std::string& name : list(folder)) names.push_back({std::move(name)});
+        return names;
+    }
     /// Nothing on a host where holding a folder would stand in somebody's way.
     virtual std::unique_ptr<HeldFolder> hold(const HostPath& /*folder*/) { return nullptr; }
     /// Waits its turn. Nothing if it does not come within `patience`, or where there are no locks.

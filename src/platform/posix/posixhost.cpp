@@ -121,6 +121,19 @@ bool isBeingWritten([[maybe_unused]] const Descriptor& file) {
 #endif
 }
 
+template <class Take>
+void takeEntries(const HostPath& folder, Take&& take) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(systemName(folder)), ::closedir);
+    if (!open) raiseErrno(folder);
+    errno = 0;
+    while (const dirent* entry = ::readdir(open.get())) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") take(*entry);
+        errno = 0;
+    }
+    if (errno != 0) raiseErrno(folder);
+}
+
 class PosixHost : public Host {
   public:
     std::optional<HostStatus> status(const HostPath& path) override {
@@ -132,16 +145,16 @@ class PosixHost : public Host {
     }
 
     std::vector<std::string> list(const HostPath& folder) override {
-        const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(systemName(folder)), ::closedir);
-        if (!open) raiseErrno(folder);
         std::vector<std::string> names;
-        errno = 0;
-        while (const dirent* entry = ::readdir(open.get())) {
-            const std::string_view name = entry->d_name;
-            if (name != "." && name != "..") names.emplace_back(name);
-            errno = 0;
-        }
-        if (errno != 0) raiseErrno(folder);
+        takeEntries(folder, [&](const dirent& entry) { names.emplace_back(entry.d_name); });
+        return names;
+    }
+
+    std::vector<ListedName> listNames(const HostPath& folder) override {
+        std::vector<ListedName> names;
+        takeEntries(folder, [&](const dirent& entry) {
+            names.push_back({entry.d_name, entry.d_type == DT_REG && entry.d_name[0] != '.'});
+        });
         return names;
     }
 

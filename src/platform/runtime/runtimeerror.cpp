@@ -34,6 +34,7 @@ constexpr std::array descriptions{
     Description{errors::ObjectNotSet, "Object variable or With block variable not set"},
     Description{errors::ResourceNotFound, "Resource with identifier not found"},
     Description{errors::InvalidPropertyValue, "Invalid property value"},
+    Description{errors::InvalidPicture, "Invalid picture"},
     Description{errors::ControlNameInUse, "There is already a control with that name"},
     Description{errors::IndexOutOfBounds, "Index out of bounds"},
 };

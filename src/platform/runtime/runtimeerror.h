@@ -30,6 +30,7 @@ inline constexpr int PathNotFound = 76;
 inline constexpr int ObjectNotSet = 91;
 inline constexpr int ResourceNotFound = 326;
 inline constexpr int InvalidPropertyValue = 380;
+inline constexpr int InvalidPicture = 481;
 inline constexpr int ControlNameInUse = 727;
 inline constexpr int IndexOutOfBounds = 35600;
 }  // namespace errors

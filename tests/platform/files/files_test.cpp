@@ -46,6 +46,21 @@ TEST(Files, ANormalListingHidesFoldersAndHiddenFiles) {
     EXPECT_EQ(world.files.firstMatch("C:\\s\\folder", all), "");
 }
 
+TEST(Files, WhatAListingTellsOfItsNamesMakesNoDifference) {
+    TestWorld world;
+    for (const char* name : {"plain", ".hidden", "folder\\file"})
+        world.write(std::string("C:\\s\\") + name, "");
+    fs::create_symlink("plain", world.at("C:\\s\\link"));
+    fs::create_symlink("folder", world.at("C:\\s\\linked folder"));
+    fs::create_symlink("nowhere", world.at("C:\\s\\lost"));
+    const auto real = makeHost();  // tells more than the failing twin does
+    Files files(*real, world.paths);
+    EXPECT_THAT(files.list("C:\\s\\*.*", attributes::Normal), ElementsAre("link", "plain"));
+    EXPECT_THAT(files.list("C:\\s\\*.*", all), ElementsAre(".hidden", "link", "plain"));
+    for (const int wanted : {attributes::Normal, int(attributes::Directory), all})
+        EXPECT_EQ(files.list("C:\\s\\*.*", wanted), world.files.list("C:\\s\\*.*", wanted));
+}
+
 TEST(Files, AReadOnlyFileIsListed) {
     TestWorld world;
     world.write("C:\\a.txt", "");

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <random>
 
 #include "platform/files/wholefile.h"
@@ -90,6 +91,23 @@ TEST(PosixHost, ListsWithoutDots) {
     real.write(".b");
     EXPECT_THAT(real.host->list(real.folder.path()), UnorderedElementsAre("a", ".b"));
     EXPECT_EQ(errorOf([&] { real.host->list(real.folder.path() / "none"); }), errors::FileNotFound);
+}
+
+TEST(PosixHost, AListingTellsPlainFilesFromAllElse) {
+    const Real real;
+    const HostPath file = real.write("file");
+    real.write(".hidden");
+    fs::create_directory(real.folder.path() / "folder");
+    fs::create_symlink(file, real.folder.path() / "link");
+    ASSERT_EQ(::mkfifo((real.folder.path() / "pipe").c_str(), 0600), 0);
+    std::map<std::string, bool> plain;
+    for (const ListedName& each : real.host->listNames(real.folder.path()))
+        plain[each.name] = each.plainFile;
+    EXPECT_EQ(plain, (std::map<std::string, bool>{{"file", true},
+                                                  {".hidden", false},
+                                                  {"folder", false},
+                                                  {"link", false},
+                                                  {"pipe", false}}));
 }
 
 TEST(PosixHost, ANewFileTakesNoNameThatIsTaken) {
