@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/runtime/runtimeerror.h"
+#include "platform/text/lettercase.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
