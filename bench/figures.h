@@ -10,6 +10,9 @@ bool extractMissingFiles();
 bool extractPresentFiles();
 /// A key of a large profile file, read and written, against GLib's key file parser.
 bool profileFile();
+/// The favourites of the game's browser, read key by key from a large file, against GLib's key file
+/// parser; and what one of many costs, against one of few.
+bool importFavorites();
 /// From a process's start to its main window's first paint, and the memory resident then, against
 /// an empty main window.
 bool firstPaint();

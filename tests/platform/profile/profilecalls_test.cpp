@@ -84,6 +84,21 @@ TEST_F(Profile, TrailingSpacesOfTheDefaultAreCutLeadingOnesKept) {
     EXPECT_EQ(get("S", "k", "   "), "");
 }
 
+TEST_F(Profile, QuotesOfTheDefaultStay) {
+    EXPECT_EQ(get("S", "k", "\"a\""), "\"a\"");
+    EXPECT_EQ(get("S", "k", " '"), " '");
+}
+
+TEST_F(Profile, ABareNameMeansAFileInTheCurrentFolder) {
+    world.write("C:\\bare.ini", "[S]\nk=root\n");
+    world.paths.changeFolder("C:\\game");
+    EXPECT_TRUE(world.profile.writePrivateProfileString("S", "k", "here", "bare.ini"));
+    EXPECT_EQ(world.read("C:\\game\\bare.ini"), "[S]\r\nk=here\r\n");
+    EXPECT_EQ(world.profile.getPrivateProfileString("S", "k", "?", 9, "bare.ini"), "here");
+    world.paths.changeFolder("C:\\");
+    EXPECT_EQ(world.profile.getPrivateProfileString("S", "k", "?", 9, "bare.ini"), "root");
+}
+
 TEST_F(Profile, AValueIsCutToOneLessThanTheSize) {
     file("[S]\nk=12345\n");
     EXPECT_EQ(get("S", "k", "", 6), "12345");

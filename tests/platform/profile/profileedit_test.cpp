@@ -98,6 +98,14 @@ TEST(ProfileEdit, WritingATextWithBlanksAgainChangesNothing) {
     }
 }
 
+TEST(ProfileEdit, BlanksThatTheTextBringsAreAChange) {
+    EXPECT_EQ(write("[S]\nk=v\n", "S", "k", "v "), "[S]\nk=v \n");
+    EXPECT_EQ(write("[S]\nk=v\n", "S", "k", " v"), "[S]\nk= v\n");
+    EXPECT_EQ(write("[S]\nk=v \n", "S", "k", "v\t"), "[S]\nk=v\t \n");
+    EXPECT_EQ(write("[S]\nk=v \n", "S", "k", "v "), std::nullopt);
+    EXPECT_EQ(write("[S]\nk= \n", "S", "k", "\t"), "[S]\nk= \t\n");
+}
+
 TEST(ProfileEdit, AnotherSpellingOfTheValueIsAChange) {
     EXPECT_EQ(write("[S]\nk=true\n", "S", "k", "True"), "[S]\nk=True\n");
 }
@@ -143,6 +151,11 @@ TEST(ProfileEdit, ATextThatDoesNotFitWidensTheWholeFile) {
     EXPECT_EQ(write("[S]\nj=\xE9\n", "S", "k", "Ł"),
               "\xFF\xFE[\0S\0]\0\n\0j\0=\0\xE9\0\n\0k\0=\0\x41\x01\n\0"s);
     EXPECT_EQ(write("", "Ł", "k", ""), "\xFF\xFE[\0\x41\x01]\0\r\0\n\0k\0=\0\r\0\n\0"s);
+}
+
+TEST(ProfileEdit, AWidenedUtf8FileKeepsItsLetters) {
+    const auto bytes = write("[S]\nj=\xC3\xA9\n", "S", "k", "\xED\xA0\x80");
+    EXPECT_EQ(bytes, "\xFF\xFE[\0S\0]\0\n\0j\0=\0\xE9\0\n\0k\0=\0\x00\xD8\n\0"s);
 }
 
 TEST(ProfileEdit, CodePageBytesThatWouldReadAsUtf8WidenTheFile) {
