@@ -7,7 +7,9 @@
 #include "compress/decomp2.h"
 #include "core/MainFrm.h"
 #include "core/splash.h"
+#include "platform/runtime/runtimeerror.h"
 #include "prefs/Prefs.h"
+#include "screenshots/screenshot.h"
 #include "shell/Skinz.h"
 #include "shell/menus.h"
 
@@ -24,10 +26,13 @@ Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
     forms.add<comp2>(program);
     forms.add<decomp>(program);
     forms.add<decomp2>(program);
+    forms.add<screenshot>(program);
 }
 
 void Tools::buildMenus(QMainWindow& window) {
     const auto exitProgram = [this] { forms_.get<MainFrm>().exitProgram(); };
+    // From the menu bar, and not from the pop-up menu, a viewer that cannot open is silent.
+    const auto viewShots = [this] { attempt([this] { forms_.show<screenshot>(); }); };
     tessaro::buildMenus(forms_, window,
                         {
                             {"mnumapextractor", [this] { forms_.show<mapext>(); }},
@@ -35,6 +40,8 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnumapcompress", [this] { forms_.show<comp>(); }},
                             {"mnurcompress", [this] { forms_.show<comp>(); }},
                             {"mnudecomp", [this] { forms_.show<decomp>(); }},
+                            {"mnuviewscrnshot", viewShots},
+                            {"mnurscrnsht", [this] { forms_.show<screenshot>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
                             {"mnuexit", exitProgram},
