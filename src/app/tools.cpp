@@ -13,6 +13,9 @@
 #include "prefs/Prefs.h"
 #include "servers/iplist.h"
 #include "servers/listeditmenu.h"
+#include "platform/runtime/runtimeerror.h"
+#include "prefs/Prefs.h"
+#include "screenshots/screenshot.h"
 #include "shell/Skinz.h"
 #include "shell/about.h"
 #include "shell/clsSysTray.h"
@@ -42,6 +45,7 @@ Tools::Tools(Forms& forms, Program& program, Desktop& desktop)
     forms.add<inieditor>(program, editor_);
     forms.add<inieditorpopup>();
     forms.add<findfrm>(program);
+    forms.add<screenshot>(program);
 }
 
 void Tools::buildMenus(QMainWindow& window) {
@@ -53,6 +57,8 @@ void Tools::buildMenus(QMainWindow& window) {
     const auto page = [this](const HelpPage& help) {
         return [this, &help] { showHelpPage(forms_, program_, help); };
     };
+    // From the menu bar, and not from the pop-up menu, a viewer that cannot open is silent.
+    const auto viewShots = [this] { attempt([this] { forms_.show<screenshot>(); }); };
     tessaro::buildMenus(forms_, window,
                         {
                             {"mnumapextractor", [this] { forms_.show<mapext>(); }},
@@ -63,6 +69,8 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnuipaddr", [this] { forms_.show<iplist>(); }},
                             {"mnuripaddr", [this] { forms_.show<iplist>(); }},
                             {"mnuinieditor", [this] { forms_.show<inieditor>(); }},
+                            {"mnuviewscrnshot", viewShots},
+                            {"mnurscrnsht", [this] { forms_.show<screenshot>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
                             {"mnuwwwut", link("mnuwwwut")},
