@@ -38,6 +38,7 @@ TEST(RunTimeError, EachNumberHasItsCustomaryWords) {
         {76, "Path not found"},
         {91, "Object variable or With block variable not set"},
         {326, "Resource with identifier not found"},
+        {727, "There is already a control with that name"},
         {35600, "Index out of bounds"},
     };
     for (const auto& [number, description] : words) {
