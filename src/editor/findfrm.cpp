@@ -20,6 +20,7 @@ findfrm::findfrm(Forms& forms, Program& program)
     on(ui_->Command1, &QPushButton::clicked, forms,
        [this] { search_.click(fromQt(ui_->Text2->text())); });
     on(ui_->Command2, &QPushButton::clicked, forms, [this] { this->forms().close(*this); });
+    setCancelButton(*ui_->Command2);
 }
 
 findfrm::~findfrm() = default;

@@ -196,8 +196,8 @@ TEST_F(RefusedSave, AVanishedFolderLeavesTheText) {
 }
 
 TEST_F(RefusedSave, ARenameThatFailsLeavesTheOldFileAndNoFragment) {
-    disk_.host.refuse(Call::Rename, errors::PermissionDenied);
-    EXPECT_EQ(errorOf([&] { editor_.save(); }), errors::PermissionDenied);
+    disk_.host.refuse(Call::Rename, errors::DiskFull);
+    EXPECT_EQ(errorOf([&] { editor_.save(); }), errors::DiskFull);
     expectNothingLost();
 }
 

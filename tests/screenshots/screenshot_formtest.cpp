@@ -192,12 +192,11 @@ TEST_F(ScreenshotForm, TheMenuKeyPopsItUpAtThePicture) {
     menu().close();
 }
 
-TEST_F(ScreenshotForm, CloseAndEscCloseIt) {
+TEST_F(ScreenshotForm, CloseClosesItAndEscDoesNot) {
     open({"Shot0001.bmp"});
-    choose("mnuclose");
-    EXPECT_EQ(loaded(), nullptr);
-    open();
     press(Qt::Key_Escape);
+    EXPECT_NE(loaded(), nullptr);
+    choose("mnuclose");
     EXPECT_EQ(loaded(), nullptr);
 }
 

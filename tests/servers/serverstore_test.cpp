@@ -194,8 +194,8 @@ TEST_F(ServerStore, AFullDiskLeavesTheOldFileWholeAndNothingBesideIt) {
 TEST_F(ServerStore, ASaveThatFailsAtItsLastStepLeavesTheOldFile) {
     loaded("A\\1.1.1.1\\1111\r\n");
     addServer(list_, {"B", "2.2.2.2", "2222"});
-    disk_.host.refuse(Call::Rename, errors::PathFileAccess, "servers.ip");
-    EXPECT_EQ(errorOf([&] { SaveServerList(program_, list_); }), errors::PathFileAccess);
+    disk_.host.refuse(Call::Rename, errors::DiskFull, "servers.ip");
+    EXPECT_EQ(errorOf([&] { SaveServerList(program_, list_); }), errors::DiskFull);
     EXPECT_EQ(disk_.read(serverFile), "A\\1.1.1.1\\1111\r\n");
     EXPECT_THAT(programFolder(), ElementsAre("servers.ip"));
 }

@@ -10,6 +10,7 @@
 
 #include "kit/look/pictures.h"
 #include "kit/look/text.h"
+#include "kit/outside/hush.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
 
@@ -27,21 +28,6 @@ QString soundFile(std::string_view name) {
         throw RunTimeError(errors::ResourceNotFound, std::string(name));
     return file;
 }
-
-/// While one lives, Qt says nothing on the terminal.
-class Hush {
-  public:
-    Hush()
-        : before_(
-              qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {})) {
-    }
-    ~Hush() { qInstallMessageHandler(before_); }
-    Hush(const Hush&) = delete;
-    Hush& operator=(const Hush&) = delete;
-
-  private:
-    QtMessageHandler before_;
-};
 
 bool hasDevice() {
     // Without a sound server Qt complains, which is no news to somebody who has none.

@@ -35,9 +35,17 @@ TEST(TheDesktop, OpensAnAddressInTheUsersBrowser) {
               QStringLiteral("https://web.archive.org/web/2002/http://www.planetunreal.com/"));
 }
 
+QStringList* saidByQt = nullptr;
+
 TEST(TheDesktop, SaysNothingWhereThereIsNoBrowser) {
-    QtDesktop desktop;
-    EXPECT_NO_THROW(desktop.openAddress("no-such-scheme://nowhere"));
+    QStringList said;
+    saidByQt = &said;
+    const auto before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { saidByQt->append(text); });
+    QtDesktop().openAddress("no-such-scheme://nowhere");
+    qWarning("heard");
+    qInstallMessageHandler(before);
+    EXPECT_EQ(said, QStringList{"heard"});
 }
 
 /// A hook with a tray that shows its picture.

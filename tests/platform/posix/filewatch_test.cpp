@@ -142,11 +142,11 @@ TEST_F(FileWatchTest, EndsWhenANameThatDiffersInCaseOnlyComesOrGoes) {
     EXPECT_TRUE(endsBy([this] { fs::create_directory(at("Game")); }));
 }
 
-TEST_F(FileWatchTest, EndsWhenANameComesThatTheGameCannotTellFromIt) {
+TEST_F(FileWatchTest, EndsWhenANameOfOtherCaseWithAStandInComes) {
     const HostPath odd = at("game/a*.ini");
     TestWorld::writeHost(odd, "");
     EXPECT_FALSE(endsAt(odd, [] {}));
-    EXPECT_TRUE(endsAt(odd, [this] { TestWorld::writeHost(at("game/A\uF02A.ini"), ""); }));
+    EXPECT_TRUE(endsAt(odd, [this] { TestWorld::writeHost(at("game/A*.ini"), ""); }));
 }
 
 TEST_F(FileWatchTest, OtherNamesOnTheWayMayComeAndGo) {

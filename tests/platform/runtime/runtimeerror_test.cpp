@@ -39,6 +39,7 @@ TEST(RunTimeError, EachNumberHasItsCustomaryWords) {
         {91, "Object variable or With block variable not set"},
         {326, "Resource with identifier not found"},
         {481, "Invalid picture"},
+        {727, "There is already a control with that name"},
         {35600, "Index out of bounds"},
     };
     for (const auto& [number, description] : words) {
