@@ -15,7 +15,7 @@ inline constexpr char cacheFolder[] = "C:\\UnrealTournament\\Cache";
 class NoObserver : public ExtractionObserver {
   public:
     void show(ExtractionBox, const std::string&) override {}
-    void setRunning(bool) override {}
+    void enableStop(bool) override {}
     void setBusyPointer(bool) override {}
     bool stopped() override { return false; }
     bool overwriteExisting() override { return true; }
