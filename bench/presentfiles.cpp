@@ -1,3 +1,6 @@
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <stdexcept>
 
 #include "bench/cachefolder.h"
@@ -43,20 +46,33 @@ void extractAll(World& world) {
     if (extract(world).copied != fileCount) throw std::runtime_error("not all extracted");
 }
 
+void flush(const HostPath& path) {
+    const int opened = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const bool flushed = opened != -1 && ::fsync(opened) == 0;
+    if (opened != -1) ::close(opened);
+    if (!flushed) throw std::runtime_error("cannot flush " + path.string());
+}
+
+// With the least that makes a copy safe against a power cut: its bytes are on the disk before it
+// has its name, and the name before the next step.
 void copyEachFile(const World& world) {
     const HostPath cache = world.at(cacheFolder);
     const HostPath out = world.at("C:\\Out");
     for (int i = 0; i < fileCount; ++i) {
         std::string folder(typeOf(i).folder);
         folder.pop_back();
-        fs::copy_file(cache / (guidOf(i) + ".uxx"), out / folder / trueName(i));
+        const HostPath beside = out / folder / "copy.tmp";
+        fs::copy_file(cache / (guidOf(i) + ".uxx"), beside);
+        flush(beside);
+        fs::rename(beside, out / folder / trueName(i));
+        flush(out / folder);
     }
 }
 
 }  // namespace
 
-// Processor time, the kernel's copying included: nobody waits for the disk, and when the kernel
-// gets round to writing is its own affair.
+// Processor time, the kernel's copying included: both sides wait for the disk as often, and how
+// long it takes is its own affair.
 bool extractPresentFiles() {
     World world;
     fillCacheFolder(world);

@@ -1,3 +1,24 @@
+// Why a question may be answered from memory.
+//
+// A folder's stamp, which is its place on the disk and the time of its last change, is another one
+// once a name has come or gone. While it is the one under which the names were read, a name that
+// was found is there (or has been, a moment ago), and a name that was not found is not there, save
+// in two cases.
+//
+// A clock stands behind the stamp, and it ticks. Names may have come later in the very tick that
+// the stamp tells of, and it would not show. So the names are settled only if they were read a tick
+// or more after the stamp's time; until then a miss is no answer, and they are read again. How long
+// a tick is the stamp itself lets guess: one of whole seconds comes from a coarse clock. And where
+// it is the clock of another machine, what counts is when we first saw the stamp.
+//
+// Going a folder's path costs more than looking at a folder that is held open, so a big one is
+// held. But what is held stays the same folder when one above it is renamed and another comes to
+// stand at the path. So the path is gone again every now and then, and a rename above is seen a
+// little later.
+//
+// Where the names cannot be read at all, only the exact name can be asked for. If there is none,
+// one in another case may still be there, so the answer is the failure.
+
 #include "platform/files/folderindex.h"
 
 #include <algorithm>

@@ -33,8 +33,9 @@ struct HostStatus {
     FolderStamp stamp;
 };
 
-/// The contents of a file on their way to the disk: of a new file, or of an old one, whose bytes
-/// are written over from the first on. A new file that ends without `close` leaves nothing behind.
+/// The contents of a file on their way to the disk, owned by whoever writes them: of a new file, or
+/// of an old one, whose bytes are written over from the first on. A new file that ends without
+/// `close` leaves nothing behind.
 class HostWriter {
   public:
     virtual ~HostWriter() = default;
@@ -86,7 +87,9 @@ struct ListedName {
     bool plainFile = false;
 };
 
-/// What the program asks of the operating system's files. Links are followed. Every member raises
+/// What the program asks of the operating system's files, on its one thread. It is made once and
+/// lent to all who need it; what its members give belongs to the caller and must not outlive it.
+/// Links are followed. Every member raises
 /// RunTimeError with the number that fits the host's error, 52 for a name that no file can bear
 /// (one with a NUL in it); the failing twin of the tests raises where it is told to.
 class Host {

@@ -26,7 +26,8 @@ struct FilePicker {
     bool operator==(const FilePicker&) const = default;
 };
 
-/// The one door for questions. Each call returns when the user has answered.
+/// The one door for questions, made once and lent to all who ask. Each call returns when the user
+/// has answered; handlers of other forms may run until then, on the same thread.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;

@@ -2,7 +2,8 @@
 
 namespace tessaro {
 
-/// The user interface's events and the clock, as the program's waits need them.
+/// The user interface's events and the clock, as the program's waits need them. Made once and lent
+/// to all who wait. There is one thread: what happens while it waits happens inside of `pump`.
 class Events {
   public:
     virtual ~Events() = default;

@@ -5,7 +5,8 @@
 
 namespace tessaro {
 
-/// The program's sounds and their player.
+/// The program's sounds and their player, which is made once and lent to all who play. Nothing of
+/// the caller's is kept; called on the program's one thread.
 class Sounds {
   public:
     virtual ~Sounds() = default;

@@ -26,8 +26,8 @@ namespace tessaro {
 
 namespace {
 
-constexpr const char* Nowhere = "/dev/null";
-constexpr std::chrono::milliseconds BetweenLooks{1};
+constexpr const char* nowhere = "/dev/null";
+constexpr std::chrono::milliseconds betweenLooks{1};
 
 // What becomes of the child's files between its birth and the program's first step.
 class FileActions {
@@ -56,7 +56,7 @@ class FileActions {
 
   private:
     void point(int file, int flags) {
-        ::posix_spawn_file_actions_addopen(&actions_, file, Nowhere, flags, 0);
+        ::posix_spawn_file_actions_addopen(&actions_, file, nowhere, flags, 0);
     }
     posix_spawn_file_actions_t actions_ = {};
 };
@@ -144,7 +144,7 @@ bool ChildProcess::lookedForWithin(std::chrono::milliseconds time) const {
     const auto end = std::chrono::steady_clock::now() + time;
     while (!reap(WNOHANG)) {
         if (std::chrono::steady_clock::now() >= end) return false;
-        std::this_thread::sleep_for(BetweenLooks);
+        std::this_thread::sleep_for(betweenLooks);
     }
     return true;
 }

@@ -107,15 +107,13 @@ class PosixFolderLock : public FolderLock {
     Descriptor folder_;  // the lock goes when this is closed, also by a kill
 };
 
-// The system refuses to lease a file that anybody has open for writing. A lease that it grants goes
-// back at once; it would tell us by a signal of those who came in between, and that must not be one
-// that ends the program.
+// The system refuses to lease a file that anybody has open for writing. One that it grants goes
+// with the file's closing, at once; of those who come before that it tells us by a signal, which
+// must not be one that ends the program.
 bool isBeingWritten([[maybe_unused]] const Descriptor& file) {
 #ifdef F_SETLEASE
     ::fcntl(file.get(), F_SETSIG, SIGURG);
-    const bool refused = ::fcntl(file.get(), F_SETLEASE, F_RDLCK) == -1 && errno == EAGAIN;
-    if (!refused) ::fcntl(file.get(), F_SETLEASE, F_UNLCK);
-    return refused;
+    return ::fcntl(file.get(), F_SETLEASE, F_RDLCK) == -1 && errno == EAGAIN;
 #else
     return false;
 #endif

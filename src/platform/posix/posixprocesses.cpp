@@ -13,16 +13,16 @@ namespace tessaro {
 namespace {
 
 // Long enough to cost nothing, short enough for a window to look alive.
-constexpr std::chrono::milliseconds BetweenRepaints{20};
+constexpr std::chrono::milliseconds betweenRepaints{20};
 
 // A program for Windows begins with these two letters.
-constexpr std::string_view WindowsMark = "MZ";
+constexpr std::string_view windowsMark = "MZ";
 
 // A program that may be started but not read is none of Wine's.
 bool isForWindows(const HostPath& program) {
-    std::array<char, WindowsMark.size()> start = {};
+    std::array<char, windowsMark.size()> start = {};
     attempt([&] { Descriptor(program, O_RDONLY | O_NONBLOCK).read(start.data(), start.size()); });
-    return std::string_view(start.data(), start.size()) == WindowsMark;
+    return std::string_view(start.data(), start.size()) == windowsMark;
 }
 
 }  // namespace
@@ -34,7 +34,7 @@ std::unique_ptr<Processes> makeProcesses(Host& host, const DriveMap& drives,
 
 void PosixProcesses::run(const std::string& commandLine, Visibility visibility) {
     auto child = start(splitCommandLine(commandLine), visibility);
-    while (child && !child->endedWithin(BetweenRepaints)) whileRunning_();
+    while (child && !child->endedWithin(betweenRepaints)) whileRunning_();
 }
 
 std::optional<ChildProcess> PosixProcesses::start(const CommandLine& line, Visibility visibility) {

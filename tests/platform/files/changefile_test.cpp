@@ -104,6 +104,11 @@ TEST(ChangeFile, RaisesWhatReadingAndReplacingRaise) {
         });
     };
     EXPECT_EQ(errorFor(world.at("C:\\no\\file.ini")), errors::PathNotFound);
+    EXPECT_EQ(errorOf([&] {
+                  changeFile(world.host, world.at("C:\\no\\file.ini"),
+                             [](std::string_view) { return std::optional<std::string>(); });
+              }),
+              errors::PathNotFound);
     EXPECT_EQ(errorFor(world.at("C:\\s")), errors::PathFileAccess);
     fs::permissions(world.file(), fs::perms(0444));
     EXPECT_EQ(errorFor(world.file()), errors::PathFileAccess);
@@ -200,12 +205,18 @@ TEST(ChangeFile, WithoutALockTheLastLookRemains) {
 
 constexpr std::string_view textEnd = "end=1\n";
 
+// Takes longer than one of our changes.
+void dawdle() {
+    for (int call = 0; call < 5'000; ++call) ::getppid();
+}
+
 // Rewrites the file in place again and again, in two halves.
 int rewriteInPlace(const HostPath& file) {
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 300; ++round, dawdle()) {
         Writer writer(file, O_TRUNC);
         if (!writer.write("[s]\nround=" + std::to_string(round) + "\n")) return 1;
-        if (!writer.write(std::string(5000, 'x') + "\n") || !writer.write(textEnd)) return 1;
+        dawdle();
+        if (!writer.write(textEnd)) return 1;
     }
     return 0;
 }

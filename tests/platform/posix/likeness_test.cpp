@@ -13,6 +13,7 @@
 #include <cstring>
 #include <filesystem>
 #include <functional>
+#include <utility>
 
 #include "platform/files/wholefile.h"
 #include "support/forkedchild.h"
@@ -116,15 +117,40 @@ TEST(Likeness, AFoldersListOpensNoFileThatHadNoneButGivesNewOnesTheirs) {
     if (!Place::setAttribute(place.folder.path(), folderList, list)) {
         GTEST_SKIP() << "no access lists here";
     }
-    replaceFile(*place.host, file, "new");
-    EXPECT_EQ(Place::attribute(file, accessList), "none");
-    EXPECT_EQ(Place::modeOf(file), 0660U);
-    replaceByCopy(*place.host, from, file);
-    EXPECT_EQ(Place::attribute(file, accessList), "none");
+    auto inode = Place::statusOf(file).st_ino;
+    const std::function<void()> replacements[] = {
+        [&] { replaceFile(*place.host, file, "new"); },
+        [&] { replaceByCopy(*place.host, from, file); },
+    };
+    for (const auto& replacement : replacements) {
+        replacement();
+        EXPECT_EQ(Place::attribute(file, accessList), "none");
+        EXPECT_EQ(Place::modeOf(file), 0660U);
+        EXPECT_NE(Place::statusOf(file).st_ino, std::exchange(inode, Place::statusOf(file).st_ino));
+    }
     replaceFile(*place.host, place.at("new"), "new");
     EXPECT_NE(Place::attribute(place.at("new"), accessList), "none");
     replaceByCopy(*place.host, from, place.at("copy"));
     EXPECT_NE(Place::attribute(place.at("copy"), accessList), "none");
+}
+
+TEST(Likeness, AListThatANewFileCannotHaveIsKeptByTheOldOne) {
+    const Place place;
+    const HostPath file = place.write("file", 0600);
+    const std::string list =
+        listOf({{owner, 6}, {aUser, 6, 1234}, {group, 4}, {mask, 6}, {others, 0}});
+    if (!Place::setAttribute(file, accessList, list)) GTEST_SKIP() << "no access lists here";
+    const int result = Place::inAChild([&](Host& host) {
+        if (!refuseCall(SYS_fsetxattr, ENOTSUP)) return notHere;
+        host.create(place.at("like it"), file)->close();
+        replaceFile(host, file, "new");
+        return 0;
+    });
+    if (result == notHere) GTEST_SKIP() << "calls cannot be refused here";
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(TestWorld::readHost(file), "new");
+    EXPECT_EQ(Place::attribute(file, accessList), list);
+    EXPECT_EQ(Place::modeOf(place.at("like it")), 0600U);
 }
 
 TEST(Likeness, AttributesAreKept) {
@@ -192,6 +218,7 @@ TEST(Likeness, PermissionsAndOwnersThatCannotBeSetAreNoFailure) {
         replaceFile(host, file, "new");
         replaceByCopy(host, from, place.at("copy"));
         replaceByCopy(host, secret, place.at("copied secret"));
+        host.create(place.at("new secret"), secret)->close();
         replaceFile(host, place.at("fresh"), "fresh");
         changeFile(host, file,
                    [](std::string_view bytes) { return std::optional(std::string(bytes) + "er"); });
@@ -205,7 +232,9 @@ TEST(Likeness, PermissionsAndOwnersThatCannotBeSetAreNoFailure) {
     EXPECT_EQ(Place::modeOf(file), 0644U);
     EXPECT_EQ(Place::modeOf(place.at("copy")) & ~0644U, 0U);
     EXPECT_EQ(Place::modeOf(place.at("copied secret")), 0600U);
-    EXPECT_EQ(place.names().size(), 6U);
+    EXPECT_EQ(Place::modeOf(place.at("new secret")), 0600U);
+    EXPECT_THAT(place.names(), ElementsAre("copied secret", "copy", "file", "fresh", "from",
+                                           "new secret", "secret"));
 }
 
 TEST(Likeness, AFileInAFolderThatMayNotBeWrittenIsWrittenOver) {
@@ -259,7 +288,9 @@ TEST(Likeness, ADiskThatCannotTakeTheBytesKeepsTheOldFile) {
         const int replaced = errorOf([&] { replaceFile(host, file, "new"); });
         const int copied = errorOf([&] { replaceByCopy(host, from, file); });
         const int fresh = errorOf([&] { replaceByCopy(host, from, place.at("copy")); });
-        return replaced == errors::DeviceIo && copied == replaced && fresh == replaced ? 0 : 1;
+        const int over = errorOf([&] { host.overwrite(from)->close(); });
+        const bool told = replaced == errors::DeviceIo && copied == replaced && fresh == replaced;
+        return told && over == errors::DeviceIo ? 0 : 1;
     });
     if (result == notHere) GTEST_SKIP() << "calls cannot be refused here";
     EXPECT_EQ(result, 0);
