@@ -68,7 +68,7 @@ TEST_F(PrefsStart, AFirstStartLeadsToTheRightFolderInsideTheCheck) {
     dialogs().answer(Answer::Ok);
     dialogs().pick("C:\\Games\\Unreal Tournament");
     const WhenItComes splashComes([this] { return forms_.loaded<splash>() != nullptr; },
-                             [this] { forms_.unload(*forms_.loaded<splash>()); });
+                                  [this] { forms_.unload(*forms_.loaded<splash>()); });
     start();
     EXPECT_EQ(dialogs().messages, (std::vector<Message>{refusal("C:\\Wrong"), refusal("")}));
     EXPECT_FALSE(prefsVisible());

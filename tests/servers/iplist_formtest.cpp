@@ -58,9 +58,9 @@ TEST_F(ServerForm, ShowsTheSavedServersWithoutAHighlight) {
 }
 
 TEST_F(ServerForm, EveryWayOfClosingSavesTheList) {
-    const std::vector<std::function<void()>> ways = {
-        [this] { press("CommandX"); }, [this] { form().close(); },
-        [this] { forms_.UnloadAllForms(); }};
+    const std::vector<std::function<void()>> ways = {[this] { press("CommandX"); },
+                                                     [this] { form().close(); },
+                                                     [this] { forms_.UnloadAllForms(); }};
     for (std::size_t way = 0; way < ways.size(); ++way) {
         disk_.write(serverFile, threeServers);
         shown();

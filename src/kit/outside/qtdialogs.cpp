@@ -147,8 +147,7 @@ std::string QtDialogs::pickFile(QFileDialog& box, const FilePicker& picker) {
     if (!picker.title.empty()) box.setWindowTitle(toQt(picker.title));
     setFilter(box, picker.filter);
     attempt([&] {
-        if (const auto folder = paths_.find(picker.folder))
-            box.setDirectory(hostPathToQt(*folder));
+        if (const auto folder = paths_.find(picker.folder)) box.setDirectory(hostPathToQt(*folder));
     });
     box.selectFile(toQt(picker.name));
     return picked(box);
