@@ -3,47 +3,63 @@
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev libgl-dev
-                zlib1g-dev)
-test_packages=(libgtest-dev libgmock-dev fonts-dejavu-core)
-screen_packages=(xvfb xauth fonts-dejavu-core)
-bench_packages=(libglib2.0-dev pkg-config xvfb xauth)
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev libgl-dev)
+tool_packages=(zlib1g-dev)
+font_packages=(fonts-dejavu-core)
+screen_packages=(xvfb xauth "${font_packages[@]}")
+test_packages=("${tool_packages[@]}" "${font_packages[@]}" libgtest-dev libgmock-dev)
+bench_packages=("${tool_packages[@]}" "${screen_packages[@]}" libglib2.0-dev pkg-config)
 check_packages=(clang libclang-rt-dev clang-format clang-tidy)
 
-# install PACKAGE...: installs those that are missing, as root or through sudo.
+# install PACKAGE...: installs those that are missing, as root or through sudo. Says what that costs,
+# and what to do where it is not allowed.
 install() {
-    local missing=() as_root=()
-    for package in "$@"; do
+    local missing as_root=() apt
+    missing=$(printf '%s\n' "$@" | sort -u | while read -r package; do
         [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
-            missing+=("$package")
-    done
-    [ ${#missing[@]} -eq 0 ] && return
+            printf ' %s' "$package"
+    done)
+    [ -n "$missing" ] || return 0
+    apt="apt-get install -y --no-install-recommends$missing"
     if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || {
-            echo "Missing: ${missing[*]}. Install them as root, then start this again." >&2
-            exit 1
-        }
-        as_root=(sudo)
+        command -v sudo >/dev/null && as_root=(sudo) || as_root=(false)
     fi
-    echo "Installing: ${missing[*]}"
-    "${as_root[@]}" apt-get update -qq
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+
+    echo "Missing packages:$missing"
+    "${as_root[@]}" apt-get update -qq &&
+        { LC_ALL=C $apt --print-uris 2>/dev/null | grep -E '^(Need to get|After this)' || true; } &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive $apt -qq >/dev/null || {
+        cat >&2 <<TEXT
+
+They could not be installed. Have root do it, then start this again:
+
+    apt-get update && $apt
+
+TEXT
+        exit 1
+    }
 }
 
-# build PRESET [TARGET...]: configures and builds below build/PRESET.
+# build PRESET [-DNAME=VALUE...] [TARGET...]: configures and builds below build/PRESET.
 build() {
-    local preset=$1
+    local preset=$1 options=()
     shift
-    (cd "$top" && cmake --preset "$preset" >/dev/null &&
+    while [[ ${1:-} == -* ]]; do
+        options+=("$1")
+        shift
+    done
+    (cd "$top" && cmake --preset "$preset" "${options[@]}" >/dev/null &&
         cmake --build --preset "$preset" ${1:+--target "$@"})
 }
 
-# run_tests FOLDER [PREFIX...]: the test programs in FOLDER, each started by PREFIX.
+# run_tests FOLDER [PREFIX...]: the test programs in FOLDER, each started by PREFIX, a share of its
+# tests on each core.
 run_tests() {
-    local folder=$1 tests
+    local folder=$1 cores tests
+    cores=$(nproc)
     shift
     for tests in "$folder"/*_tests; do
-        timeout 600 "$@" "$tests" --gtest_brief=1
+        seq 0 $((cores - 1)) | GTEST_TOTAL_SHARDS=$cores xargs -P "$cores" -I{} \
+            env GTEST_SHARD_INDEX={} timeout 600 "$@" "$tests" --gtest_brief=1
     done
 }

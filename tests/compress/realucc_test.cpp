@@ -103,7 +103,8 @@ TEST_F(RealUcc, ANameWithAColonGoesThereAndBack) {
     EXPECT_FALSE(disk_.exists("C:\\UnrealTournament\\System\\" + name));
 }
 
-TEST_F(RealUcc, TwoHundredFilesGoThereAndBack) {
+using SlowRealUcc = RealUcc;
+TEST_F(SlowRealUcc, TwoHundredFilesGoThereAndBack) {
     const std::vector<std::string> names = manyNames();
     pack(names);
     expectSourcesUntouched(names);

@@ -20,7 +20,7 @@ std::uint64_t checksum(const std::string& bytes, std::uint64_t sum) {
     return sum;
 }
 
-TEST(SampleGame, SameSeedGivesTheSameBytes) {
+TEST(SlowSampleGame, SameSeedGivesTheSameBytes) {
     const SampleFolder again;
     EXPECT_TRUE(contentsOf(sharedSample().root()) == contentsOf(again.root()));
 }

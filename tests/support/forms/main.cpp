@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "kit/look/style.h"
+#include "support/memory.h"
 
 namespace {
 
@@ -25,6 +26,7 @@ void isolate(const QTemporaryDir& settings) {
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
+    tessaro::test::useMemoryForTemporaryFiles();
     const QTemporaryDir settings;
     isolate(settings);
     QApplication application(argc, argv);
