@@ -10,6 +10,9 @@ bool extractMissingFiles();
 bool extractPresentFiles();
 /// A key of a large profile file, read and written, against GLib's key file parser.
 bool profileFile();
+/// The player archive: loading its list, and choosing the name of the next copy, against reading the
+/// same lines and asking the system for each file, and against listing the folder once.
+bool playerList();
 /// From a process's start to its main window's first paint, and the memory resident then, against
 /// an empty main window.
 bool firstPaint();

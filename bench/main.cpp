@@ -11,8 +11,8 @@ int main() {
     try {
         using namespace tessaro::bench;
         bool kept = true;
-        for (const auto figure :
-             {extractMissingFiles, extractPresentFiles, profileFile, firstPaint, compressBatch}) {
+        for (const auto figure : {extractMissingFiles, extractPresentFiles, profileFile, playerList,
+                                  firstPaint, compressBatch}) {
             kept = figure() && kept;
         }
         return kept ? 0 : 1;

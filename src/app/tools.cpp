@@ -7,13 +7,16 @@
 #include "compress/decomp2.h"
 #include "core/MainFrm.h"
 #include "core/splash.h"
+#include "players/Users.h"
+#include "players/ascii.h"
+#include "players/username.h"
 #include "prefs/Prefs.h"
 #include "shell/Skinz.h"
 #include "shell/menus.h"
 
 namespace tessaro {
 
-Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
+Tools::Tools(Forms& forms, Program& program) : forms_(forms), userMan_(program) {
     MainParts& parts = *this;
     forms.add<MainFrm>(program, parts);
     forms.add<splash>(program);
@@ -24,6 +27,9 @@ Tools::Tools(Forms& forms, Program& program) : forms_(forms) {
     forms.add<comp2>(program);
     forms.add<decomp>(program);
     forms.add<decomp2>(program);
+    forms.add<Users>(program, userMan_);
+    forms.add<username>(program, userMan_);
+    forms.add<ascii>(program);
 }
 
 void Tools::buildMenus(QMainWindow& window) {
@@ -35,6 +41,10 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnumapcompress", [this] { forms_.show<comp>(); }},
                             {"mnurcompress", [this] { forms_.show<comp>(); }},
                             {"mnudecomp", [this] { forms_.show<decomp>(); }},
+                            {"mnuusermanager", [this] { forms_.show<Users>(); }},
+                            {"mnuruserman", [this] { forms_.show<Users>(); }},
+                            {"mnuascii", [this] { forms_.show<ascii>(); }},
+                            {"mnurasciiview", [this] { forms_.show<ascii>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
                             {"mnuexit", exitProgram},

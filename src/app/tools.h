@@ -3,6 +3,7 @@
 #include "core/mainparts.h"
 #include "core/program.h"
 #include "kit/forms/forms.h"
+#include "players/UserMan.h"
 
 namespace tessaro {
 
@@ -18,6 +19,7 @@ class Tools : public MainParts {
 
   private:
     Forms& forms_;
+    UserMan userMan_;
 };
 
 }  // namespace tessaro

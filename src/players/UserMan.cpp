@@ -1,15 +1,11 @@
 #include "players/UserMan.h"
 
-#include <algorithm>
-#include <charconv>
-#include <optional>
 #include <string_view>
 
 #include "core/VORNX.h"
 #include "core/routines.h"
 #include "platform/runtime/runtimeerror.h"
-#include "platform/text/utf8.h"
-#include "platform/text/wildcard.h"
+#include "players/copies.h"
 
 namespace tessaro {
 namespace {
@@ -18,28 +14,9 @@ namespace {
 constexpr int listNumber = 2;
 
 constexpr std::string_view playerSection = "DefaultPlayer";
-constexpr std::string_view copyPrefix = "userini";
-constexpr std::string_view copySuffix = ".bak";
-constexpr std::size_t mostCopies = 32768;  // as many as the counter tells apart
 
 constexpr double secondsBeforeSwap = 0.1;
 constexpr double secondsForAFile = 0.2;  // to go or to come
-
-/// The number in a copy's name; nothing for any other name, such as one with leading zeros.
-std::optional<std::size_t> copyNumber(const std::string& file) {
-    std::string_view name = file;
-    if (!name.starts_with(copyPrefix) || !name.ends_with(copySuffix)) return std::nullopt;
-    name.remove_prefix(copyPrefix.size());
-    name.remove_suffix(copySuffix.size());
-    std::size_t number = mostCopies;
-    std::from_chars(name.data(), name.data() + name.size(), number);
-    return std::to_string(number) == name ? std::optional(number) : std::nullopt;
-}
-
-/// Whether a text names one file. A pattern, or no name at all, would be answered for others.
-bool namesOneFile(std::string_view BackupFile) {
-    return !BackupFile.empty() && !hasWildcard(BackupFile);
-}
 
 }  // namespace
 
@@ -50,11 +27,12 @@ bool UserMan::isThere(const std::string& file) const {
 void UserMan::LoadPlayerList(ListItems& UserTable, const std::string& listFile) {
     FileTable& table = program_.table;
     if (attempt([&] { table.openInput(listNumber, listFile); })) {
+        const Copies copies(program_, copiesFolder());
         PlayerRecord fields;  // what a line lacks is still there from the line before
         while (!table.endOfFile(listNumber)) {
             readPlayerLine(table.lineInput(listNumber), fields);
             // A player whose copy has gone is passed over, and forgotten with the next save.
-            if (!isThere(copyPath(fields.BackupFile))) continue;
+            if (!copies.has(fields.BackupFile)) continue;
             PlayerRecord record = fields;
             record.UTTeam = TeamName(fields.UTTeam);
             addPlayer(UserTable, std::move(record));
@@ -116,23 +94,7 @@ void UserMan::appendCurrentPlayer(const std::string& name) {
 }
 
 void UserMan::NextBackupName() {
-    // The folder is listed once: to ask for one name after the other takes long among thousands.
-    const std::vector<bool> taken = takenNumbers();
-    Int16 number = 0;
-    while (taken[static_cast<std::size_t>(number)]) ++number;
-    LastBackupPath_ =
-        copyPath(std::string(copyPrefix) + std::to_string(number) + std::string(copySuffix));
-}
-
-std::vector<bool> UserMan::takenNumbers() {
-    std::vector<bool> taken(mostCopies);
-    const auto folder = program_.paths.find(copiesFolder());
-    if (!folder) return taken;
-    for (const std::string& name : program_.files.host().list(*folder)) {
-        const auto number = copyNumber(lowerCase(name));
-        if (number && *number < mostCopies) taken[*number] = true;
-    }
-    return taken;
+    LastBackupPath_ = copyPath(copyName(freeCopyNumber(program_, copiesFolder())));
 }
 
 void UserMan::CopyUserIniTo(const std::string& destination) {

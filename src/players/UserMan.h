@@ -6,7 +6,6 @@
 //     program folder\users\userini0.bak       the copies, by the lowest number that is free
 
 #include <string>
-#include <vector>
 
 #include "core/program.h"
 #include "players/playerrecord.h"
@@ -69,7 +68,6 @@ class UserMan {
     }
 
   private:
-    std::vector<bool> takenNumbers();
     void appendCurrentPlayer(const std::string& name);
     bool isThere(const std::string& file) const;
     void swapIn(ArchiveView& users, const std::string& copy);

@@ -219,6 +219,12 @@ TEST_F(Archive, ANumberIsTakenInAnyLetterCaseButNotByANameThatOnlyResemblesIt) {
     EXPECT_EQ(nextName(), copyOf("userini1.bak"));
 }
 
+TEST_F(Archive, AFolderOfThatNameIsNoCopy) {
+    disk.makeFolder(copyOf("userini0.bak"));
+    EXPECT_EQ(nextName(), copyOf("userini0.bak"));
+    EXPECT_EQ(archivingError(), errors::PathFileAccess);
+}
+
 TEST_F(Archive, TheCounterOverflowsPast32767) {
     // Links to one file are made faster than files.
     disk.write(copyOf("userini0.bak"), "");

@@ -78,6 +78,27 @@ TEST_F(PlayerList, AFolderInTheCopysPlaceIsNoCopy) {
                 ElementsAre("B|c|Blue|s|f|v|userini0.bak"));
 }
 
+TEST_F(PlayerList, ACopyIsFoundInAnyLetterCaseAndWhereTheFolderCannotBeListed) {
+    const std::string text = lineOf("A", "USERINI1.bak") + lineOf("B", "userini0.bak");
+    rowsFrom(text);
+    EXPECT_THAT(names(), ElementsAre("A", "B"));
+    users.rows.clear();
+    host.refuse(Call::List, errors::PermissionDenied);
+    load();
+    EXPECT_THAT(names(), ElementsAre("B"));
+}
+
+TEST_F(PlayerList, ABlankFirstLineStandsForNoNameAndNoCopy) {
+    EXPECT_THAT(rowsFrom("\r\nB,c,1,s,f,v,userini0.bak\r\n"),
+                ElementsAre("||None||||", "B|c|Blue|s|f|v|userini0.bak"));
+    fs::remove_all(disk.at(copies));
+    disk.makeFolder(copies);
+    disk.write(list, "\r\n");
+    users.rows.clear();
+    load();
+    EXPECT_THAT(rows(), IsEmpty());
+}
+
 TEST_F(PlayerList, ACommaInANameShiftsTheFieldsSoThatItsPlayerIsDropped) {
     rowsFrom(lineOf("A", "userini0.bak") + lineOf("B, the best", "userini1.bak") +
              lineOf("C", "userini2.bak"));

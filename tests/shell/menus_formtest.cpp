@@ -98,7 +98,7 @@ TEST_F(MenusForm, EveryItemBearsItsName) {
 }
 
 TEST_F(MenusForm, ItemWithoutAToolIsDisabled) {
-    for (const char* name : {"mnuabout", "mnuwwwut", "mnuusermanager", "mnuascii", "mnumehelp"})
+    for (const char* name : {"mnuabout", "mnuwwwut", "mnuipaddr", "mnuviewscrnshot", "mnumehelp"})
         EXPECT_FALSE(menuItem(name).isEnabled()) << name;
     for (const char* name : {"mnumapextractor", "mnurmapext", "mnuexit", "mnurexit"})
         EXPECT_TRUE(menuItem(name).isEnabled()) << name;

@@ -112,6 +112,16 @@ std::string Files::firstMatch(std::string_view pattern, int attributes) {
     return names.empty() ? std::string() : std::move(names.front());
 }
 
+std::vector<std::string> Files::filesIn(std::string_view folder) {
+    const auto path = paths_.find(folder);
+    if (!path || !isFolder(host_, *path)) return {};
+    std::vector<std::string> names = host_.listFiles(*path);
+    for (std::string& name : names) {
+        if (needsStandIn(name)) name = gameName(name);
+    }
+    return names;
+}
+
 std::uintmax_t Files::fileLength(std::string_view file) {
     const auto path = paths_.find(file);
     const auto status = path ? host_.status(*path) : std::nullopt;

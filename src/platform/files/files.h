@@ -35,6 +35,10 @@ class Files {
     /// The first of `list`, or an empty text.
     std::string firstMatch(std::string_view pattern, int attributes);
 
+    /// Names of the files in a folder, hidden ones too, in no order; none if it is not there. For
+    /// many questions about one folder: to ask for each name costs a look at the disk each.
+    std::vector<std::string> filesIn(std::string_view folder);
+
     /// Bytes in a file; a folder measures 0. Raises 53.
     std::uintmax_t fileLength(std::string_view file);
     /// Copies over what is there. A copy that fails leaves what was there before and no fragment.

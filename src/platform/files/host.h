@@ -59,6 +59,9 @@ class Host {
     virtual std::optional<HostStatus> status(const HostPath& path) = 0;
     /// Names in a folder, in the host's order, without "." and "..".
     virtual std::vector<std::string> list(const HostPath& folder) = 0;
+    /// Those of them that are no folders. A host that is told as much with the names need not ask
+    /// for the status of each.
+    virtual std::vector<std::string> listFiles(const HostPath& folder);
     /// Nothing on a host where holding a folder would stand in somebody's way.
     virtual std::unique_ptr<HeldFolder> hold(const HostPath& /*folder*/) { return nullptr; }
     /// Whether this is a file (no folder, no device) that its flags and the system let us write.

@@ -111,6 +111,20 @@ class PosixHeldFolder : public HeldFolder {
     Descriptor folder_;
 };
 
+// Hands on each entry of a folder but "." and "..".
+template <class Visit>
+void walk(const HostPath& folder, const Visit& visit) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), ::closedir);
+    if (!open) raiseErrno(folder);
+    errno = 0;
+    while (const dirent* entry = ::readdir(open.get())) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") visit(*entry);
+        errno = 0;
+    }
+    if (errno != 0) raiseErrno(folder);
+}
+
 class PosixHost : public Host {
   public:
     std::optional<HostStatus> status(const HostPath& path) override {
@@ -123,18 +137,20 @@ class PosixHost : public Host {
     }
 
     std::vector<std::string> list(const HostPath& folder) override {
-        const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), ::closedir);
-        if (!open) raiseErrno(folder);
         std::vector<std::string> names;
-        errno = 0;
-        while (const dirent* entry = ::readdir(open.get())) {
-            const std::string_view name = entry->d_name;
-            if (name != "." && name != "..") names.emplace_back(name);
-            errno = 0;
-        }
-        if (errno != 0) raiseErrno(folder);
+        walk(folder, [&](const dirent& entry) { names.emplace_back(entry.d_name); });
         return names;
     }
+
+#ifdef DT_UNKNOWN
+    std::vector<std::string> listFiles(const HostPath& folder) override {
+        std::vector<std::string> names;
+        walk(folder, [&](const dirent& entry) {
+            if (isFile(folder, entry)) names.emplace_back(entry.d_name);
+        });
+        return names;
+    }
+#endif
 
     std::unique_ptr<HeldFolder> hold(const HostPath& folder) override {
         return std::make_unique<PosixHeldFolder>(Descriptor(folder, O_RDONLY | O_DIRECTORY));
@@ -216,6 +232,17 @@ class PosixHost : public Host {
     void changeFolder(const HostPath& folder) override {
         raiseIfFailed(::chdir(folder.c_str()), folder);
     }
+
+#ifdef DT_UNKNOWN
+  private:
+    // Where the folder does not tell, as of a link, the file itself is asked.
+    bool isFile(const HostPath& folder, const dirent& entry) {
+        if (entry.d_type == DT_REG) return true;
+        if (entry.d_type == DT_DIR) return false;
+        const auto found = status(folder / entry.d_name);
+        return found && !found->folder;
+    }
+#endif
 };
 
 }  // namespace

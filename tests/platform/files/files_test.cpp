@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "platform/files/standins.h"
 #include "support/testworld.h"
 
 namespace tessaro {
@@ -15,6 +16,7 @@ using test::errorOf;
 using test::TestWorld;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 
 constexpr int all = attributes::ReadOnly | attributes::Hidden | attributes::System |
                     attributes::Archive;  // without folders
@@ -91,6 +93,19 @@ TEST(Files, AMissingFolderListsNothing) {
     EXPECT_THAT(world.files.list("C:\\nowhere\\*.*", all), IsEmpty());
     EXPECT_THAT(world.files.list("C:\\nowhere\\", attributes::Directory), IsEmpty());
     EXPECT_THAT(world.files.list("C:\\nowhere\\x", all), IsEmpty());
+}
+
+TEST(Files, TheFilesOfAFolderAreToldInOneListing) {
+    TestWorld world;
+    for (const char* name : {"b.bak", ".hidden", "a?b"})
+        world.write(std::string("C:\\s\\") + name, "");
+    world.makeFolder("C:\\s\\folder");
+    makeReadOnly(world.at("C:\\s\\b.bak"));
+    EXPECT_THAT(world.files.filesIn("c:\\S"),
+                UnorderedElementsAre("b.bak", ".hidden", gameName("a?b")));
+    EXPECT_THAT(world.files.filesIn("C:\\none"), IsEmpty());
+    EXPECT_THAT(world.files.filesIn("C:\\s\\b.bak"), IsEmpty());
+    EXPECT_EQ(world.host.count(Call::List), 2) << "one to find the folder, one for all names";
 }
 
 TEST(Files, AMissingDriveRaises68) {

@@ -90,6 +90,23 @@ TEST(PosixHost, ListsWithoutDots) {
     EXPECT_EQ(errorOf([&] { real.host->list(real.folder.path() / "none"); }), errors::FileNotFound);
 }
 
+TEST(PosixHost, ListsFilesApartFromFoldersAndFollowsLinksForThat) {
+    const Real real;
+    const HostPath folder = real.folder.path();
+    const HostPath file = real.write("file");
+    real.write(".hidden");
+    real.write("below/inside");
+    fs::create_symlink(file, folder / "link");
+    fs::create_directory_symlink(folder / "below", folder / "folderlink");
+    fs::create_symlink(folder / "none", folder / "broken");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_THAT(real.host->listFiles(folder),
+                UnorderedElementsAre("file", ".hidden", "link", "pipe"));
+    test::FailingHost untold(*real.host);  // has to ask for each
+    EXPECT_THAT(untold.listFiles(folder), UnorderedElementsAre("file", ".hidden", "link", "pipe"));
+    EXPECT_EQ(errorOf([&] { real.host->listFiles(folder / "none"); }), errors::FileNotFound);
+}
+
 TEST(PosixHost, CreateRefusesANameThatIsTaken) {
     const Real real;
     const HostPath file = real.write("file", "old");
