@@ -13,6 +13,10 @@ bool profileFile();
 /// The favourites of the game's browser, read key by key from a large file, against GLib's key file
 /// parser; and what one of many costs, against one of few.
 bool importFavorites();
+
+/// The player archive: loading its list, and choosing the name of the next copy, against reading
+/// the same lines and asking the system for each file, and against listing the folder once.
+bool playerList();
 /// From a process's start to its main window's first paint, and the memory resident then, against
 /// an empty main window.
 bool firstPaint();

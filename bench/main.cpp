@@ -12,7 +12,7 @@ int main() {
         using namespace tessaro::bench;
         bool kept = true;
         for (const auto figure : {extractMissingFiles, extractPresentFiles, profileFile,
-                                  importFavorites, firstPaint, compressBatch}) {
+                                  importFavorites, playerList, firstPaint, compressBatch}) {
             kept = figure() && kept;
         }
         return kept ? 0 : 1;

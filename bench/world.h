@@ -31,6 +31,8 @@ class NoSounds : public Sounds {
 class JumpingClock : public Events {
   public:
     void pump() override { now_ += 1; }
+    void pumpEndless() override { pump(); }
+    void serveWhileBlocked() override { pump(); }
     double secondsSinceMidnight() override { return now_; }
 
   private:

@@ -11,6 +11,9 @@
 #include "editor/inieditor.h"
 #include "editor/inieditorpopup.h"
 #include "platform/runtime/runtimeerror.h"
+#include "players/Users.h"
+#include "players/ascii.h"
+#include "players/username.h"
 #include "prefs/Prefs.h"
 #include "screenshots/screenshot.h"
 #include "servers/iplist.h"
@@ -26,7 +29,7 @@
 namespace tessaro {
 
 Tools::Tools(Forms& forms, Program& program, Desktop& desktop)
-    : forms_(forms), program_(program), desktop_(desktop) {
+    : forms_(forms), program_(program), desktop_(desktop), userMan_(program) {
     MainParts& parts = *this;
     forms.add<MainFrm>(program, parts);
     forms.add<splash>(program);
@@ -45,6 +48,9 @@ Tools::Tools(Forms& forms, Program& program, Desktop& desktop)
     forms.add<inieditorpopup>();
     forms.add<findfrm>(program);
     forms.add<screenshot>(program);
+    forms.add<Users>(program, userMan_);
+    forms.add<username>(program, userMan_);
+    forms.add<ascii>(program);
 }
 
 void Tools::buildMenus(QMainWindow& window) {
@@ -70,6 +76,10 @@ void Tools::buildMenus(QMainWindow& window) {
                             {"mnuinieditor", [this] { forms_.show<inieditor>(); }},
                             {"mnuviewscrnshot", viewShots},
                             {"mnurscrnsht", [this] { forms_.show<screenshot>(); }},
+                            {"mnuusermanager", [this] { forms_.show<Users>(); }},
+                            {"mnuruserman", [this] { forms_.show<Users>(); }},
+                            {"mnuascii", [this] { forms_.show<ascii>(); }},
+                            {"mnurasciiview", [this] { forms_.show<ascii>(); }},
                             {"mnuprefs", [this] { showPrefs(); }},
                             {"mnurprefs", [this] { showPrefs(); }},
                             {"mnuwwwut", link("mnuwwwut")},

@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "kit/forms/forms.h"
 #include "platform/outside/desktop.h"
+#include "players/UserMan.h"
 
 namespace tessaro {
 
@@ -28,6 +29,7 @@ class Tools : public MainParts {
     // Variables of forms that keep their values while the form is closed.
     CacheEntry cacheEntry_;
     EditorMemory editor_;
+    UserMan userMan_;
 };
 
 }  // namespace tessaro

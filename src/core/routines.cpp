@@ -13,18 +13,18 @@ Box centeredOn(const Box& screen, const Box& form) {
     return placed;
 }
 
-void Pause(Events& events, double seconds) {
+namespace {
+
+void pauseBy(Events& events, double seconds, void (Events::*serve)()) {
     const double start = events.secondsSinceMidnight();
     // At midnight the clock falls back to 0, and the wait lasts until it has passed `start` again.
     // `start` + `seconds` may lie beyond what the clock can show.
     double wanted = seconds;
     for (double passed = 0; passed < wanted; passed = events.secondsSinceMidnight() - start) {
         if (passed < 0) wanted = 0;
-        events.pump();
+        (events.*serve)();
     }
 }
-
-namespace {
 
 YesNo anyMatch(Program& program, std::string_view path, int attributes) {
     std::string name;
@@ -34,7 +34,23 @@ YesNo anyMatch(Program& program, std::string_view path, int attributes) {
 
 }  // namespace
 
+void Pause(Events& events, double seconds) {
+    pauseBy(events, seconds, &Events::pump);
+}
+
+void pauseUntil(Events& events, double seconds, const std::function<bool()>& come) {
+    // The first pause has its end: who closes the program in it does not cut short what follows.
+    Pause(events, seconds);
+    while (!come()) pauseBy(events, seconds, &Events::pumpEndless);
+}
+
+void waitUntil(Events& events, const std::function<bool()>& come) {
+    while (!come()) events.serveWhileBlocked();
+}
+
 YesNo DirExists(Program& program, std::string_view path) {
+    // An empty path stands for the current folder, which may be a root with nothing in it.
+    if (path.empty()) return yesNo(program.files.canList(path));
     return anyMatch(program, path, attributes::Directory);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The routines that start-up needs and every form shares.
 
+#include <functional>
 #include <string_view>
 
 #include "core/program.h"
@@ -21,6 +22,12 @@ Box centeredOn(const Box& screen, const Box& form);
 /// Waits by the seconds-since-midnight clock and serves events meanwhile. Across midnight it waits
 /// until the clock has passed its start again.
 void Pause(Events& events, double seconds);
+
+/// Pauses so long, at least once, until `come`, however long that takes.
+void pauseUntil(Events& events, double seconds, const std::function<bool()>& come);
+/// Asks without a pause until `come`, however long that takes. The program takes no input
+/// meanwhile.
+void waitUntil(Events& events, const std::function<bool()>& come);
 
 /// Whether something of that name is there, a folder or a file. Never raises.
 YesNo DirExists(Program& program, std::string_view path);

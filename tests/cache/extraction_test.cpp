@@ -185,6 +185,7 @@ TEST_F(ExtractionRun, AllCachedFilesGoneOnlyCountsFailures) {
 TEST_F(ExtractionRun, HiddenCachedFileCountsAsGone) {
     const std::string hidden = "." + std::string(31, 'A');
     game.world.write(cache + "\\" + hidden + ".uxx", std::string(500, 'x'));
+    game.world.host.hide(hidden);
     index(hidden + "=a.u\r\n");
     run();
     EXPECT_EQ(shown(ExtractionBox::Failed), "1");
@@ -233,6 +234,7 @@ TEST_F(ExtractionRun, ExistingFileIsKeptUnlessOverwritten) {
 TEST_F(ExtractionRun, HiddenFileAtTheDestinationCountsAsExisting) {
     indexOf({".a.u"});
     game.world.write("C:\\UT\\system\\.a.u", "mine");
+    game.world.host.hide(".a.u");
     run();
     EXPECT_EQ(shown(ExtractionBox::Existing), "1");
     EXPECT_EQ(game.world.read("C:\\UT\\system\\.a.u"), "mine");

@@ -67,6 +67,36 @@ TEST_F(Routines, PauseAcrossMidnightWaitsUntilTheClockHasPassedItsStartAgain) {
     EXPECT_DOUBLE_EQ(game.events.now, 599.75 + 143 * 600);
 }
 
+TEST_F(Routines, PausesUntilSomethingHasComeHoweverLongThatTakes) {
+    game.events.step = 0.25;
+    pauseUntil(game.events, 0.5, [&] { return game.events.pumps >= 999; });
+    EXPECT_EQ(game.events.pumps, 1000);
+}
+
+TEST_F(Routines, TheFirstPauseIsAlwaysTakenAndAnOrdinaryOne) {
+    game.events.step = 0.25;
+    pauseUntil(game.events, 0.5, [] { return true; });
+    EXPECT_EQ(game.events.pumps, 2);
+    EXPECT_EQ(game.events.endlessPumps, 0);
+    pauseUntil(game.events, 0.5, [&] { return game.events.pumps == 8; });
+    EXPECT_EQ(game.events.endlessPumps, 4);
+}
+
+TEST_F(Routines, WaitsWithoutAPauseAndWithoutInputHoweverLongThatTakes) {
+    int turns = 0;
+    game.events.onBlocked = [&] { ++turns; };
+    waitUntil(game.events, [&] { return turns == 1000; });
+    EXPECT_EQ(turns, 1000);
+    EXPECT_EQ(game.events.pumps, 0);
+}
+
+TEST_F(Routines, WhatHasComeAlreadyIsNotWaitedFor) {
+    int turns = 0;
+    game.events.onBlocked = [&] { ++turns; };
+    waitUntil(game.events, [] { return true; });
+    EXPECT_EQ(turns, 0);
+}
+
 TEST_F(Routines, FolderExistsAlsoWhereAFileHasThatName) {
     game.world.write("C:\\UT\\System\\user.ini", "x");
     EXPECT_EQ(DirExists(program, "C:\\UT\\System"), Yes);
@@ -79,6 +109,22 @@ TEST_F(Routines, EmptyPathStandsForTheCurrentFolder) {
     game.world.makeFolder("C:\\UT");
     program.paths.changeFolder("C:\\UT");
     EXPECT_EQ(DirExists(program, ""), Yes);
+    game.world.host.refuse(Call::List, errors::PermissionDenied);
+    EXPECT_EQ(DirExists(program, ""), No);
+}
+
+TEST_F(Routines, AnEmptyRootAsCurrentFolderIsThereToo) {
+    std::filesystem::remove_all(game.world.at("C:\\Tessaro"));
+    program.paths.changeFolder("C:\\");
+    EXPECT_EQ(game.world.names("C:\\"), std::vector<std::string>{});
+    EXPECT_EQ(DirExists(program, ""), Yes);
+}
+
+TEST_F(Routines, AGameInAFolderThatBeginsWithADotIsAGameLikeAnyOther) {
+    for (const char* folder : {"Sounds", "Maps", "Textures", "System", "Cache"})
+        game.world.makeFolder(std::string("C:\\.ut99\\") + folder);
+    EXPECT_EQ(DirExists(program, "C:\\.ut99"), Yes);
+    EXPECT_EQ(ValidatePaths(program, "C:\\.ut99"), Yes);
 }
 
 TEST_F(Routines, FileExistsForHiddenFilesButNotForFolders) {

@@ -80,6 +80,7 @@ TEST_F(WipeTest, LeavesFoldersAndWhatIsInThem) {
 
 TEST_F(WipeTest, LeavesHiddenFiles) {
     write(".hidden", "x");
+    test.world.host.hide(".hidden");
     wipe(Answer::Yes, Answer::No);
     EXPECT_EQ(cached(), (Names{".hidden", "cache.ini"}));
 }

@@ -76,7 +76,10 @@ void FailingHost::pass(Call call, const HostPath& path) {
 std::optional<HostStatus> FailingHost::status(const HostPath& path) {
     if (vanished_ && path.native().starts_with(*vanished_)) return std::nullopt;
     pass(Call::Status, path);
-    return real_.status(path);
+    auto status = real_.status(path);
+    if (status && hidden_)
+        status->hidden = path.filename().string().find(*hidden_) != std::string::npos;
+    return status;
 }
 
 std::vector<std::string> FailingHost::list(const HostPath& folder) {

@@ -39,6 +39,8 @@ class FailingHost : public Host {
     void setDiskSpace(std::size_t bytes) { space_ = bytes; }
     /// Files whose path contains `part` cannot be written.
     void protect(std::string part) { protected_ = std::move(part); }
+    /// Files and folders whose name contains `part` are hidden, as some systems have it.
+    void hide(std::string part) { hidden_ = std::move(part); }
     /// A folder is gone with all that is in it.
     void vanish(const HostPath& folder) { vanished_ = folder.native(); }
     /// Nothing fails any more.
@@ -82,6 +84,7 @@ class FailingHost : public Host {
     std::vector<Call> calls_;
     std::optional<std::size_t> space_;
     std::optional<std::string> protected_;
+    std::optional<std::string> hidden_;
     std::optional<HostPath::string_type> vanished_;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <stdexcept>
 
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
@@ -38,6 +39,16 @@ void ManualEvents::pump() {
     ++pumps;
     if (onPump) onPump();
     now = std::fmod(now + step, secondsOfDay);
+}
+
+void ManualEvents::pumpEndless() {
+    ++endlessPumps;
+    pump();
+}
+
+void ManualEvents::serveWhileBlocked() {
+    if (!onBlocked) throw std::logic_error("Nobody expected the program to wait");
+    onBlocked();
 }
 
 void RecordingProcesses::run(const std::string& commandLine, Visibility visibility) {

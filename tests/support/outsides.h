@@ -29,9 +29,15 @@ class ManualEvents : public Events {
     double now = 43200;  // noon
     double step = 0.05;
     int pumps = 0;
+    int endlessPumps = 0;  ///< counted in `pumps` as well
     std::function<void()> onPump;
+    /// What goes on outside while the program is blocked. A wait that nobody expected is
+    /// left by a `std::logic_error`.
+    std::function<void()> onBlocked;
 
     void pump() override;
+    void pumpEndless() override;
+    void serveWhileBlocked() override;
     double secondsSinceMidnight() override { return now; }
 };
 

@@ -1,5 +1,5 @@
-// tessaro-sample FOLDER SETTINGS: builds the sample game in FOLDER and writes a settings file that
-// points at it.
+// tessaro-sample FOLDER SETTINGS: builds the sample game in FOLDER, and writes a settings file that
+// points at it and an archive of players beside that.
 
 #include <cstdio>
 #include <exception>
@@ -11,6 +11,7 @@
 #include "platform/files/filetable.h"
 #include "platform/files/paths.h"
 #include "platform/profile/profilecalls.h"
+#include "tools/samplegame/players.h"
 #include "tools/samplegame/samplegame.h"
 #include "tools/ucc/programs.h"
 
@@ -47,7 +48,9 @@ int main(int argc, char** argv) {
         const HostPath game = std::filesystem::absolute(argv[1]);
         tessaro::sample::buildSampleGame(game);
         tessaro::ucc::installPrograms(game, tessaro::executablePath().parent_path());
-        pointSettingsAt(game, std::filesystem::absolute(argv[2]));
+        const HostPath settings = std::filesystem::absolute(argv[2]);
+        pointSettingsAt(game, settings);
+        tessaro::sample::writePlayers(settings.parent_path());
     } catch (const std::exception& error) {
         std::fprintf(stderr, "The sample game could not be made: %s\n", error.what());
         return 1;

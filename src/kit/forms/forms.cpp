@@ -95,7 +95,7 @@ void Forms::letGo(Form& form) {
                                     [&](const auto& one) { return one->form.get() == &form; });
     unloaded_.push_back(std::move((*entry)->form));
     entries_.erase(entry);
-    if (entries_.empty() && serving_) QCoreApplication::exit(0);
+    if (entries_.empty() && serving_) end_.desert();
 }
 
 void Forms::UnloadAllForms() {

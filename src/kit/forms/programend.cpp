@@ -9,4 +9,9 @@ void ProgramEnd::end() {
     QCoreApplication::exit(0);
 }
 
+void ProgramEnd::desert() {
+    deserted_ = true;
+    QCoreApplication::exit(0);
+}
+
 }  // namespace tessaro

@@ -11,13 +11,30 @@ namespace {
 
 constexpr int idleMilliseconds = 5;
 
-/// Swallows what the user does with mouse, keys and window frames, and takes the end of the
-/// desktop's session for an end of the program: asked to close, the windows would refuse it.
-class InputFilter : public QObject {
+/// Sees every event of the program as long as it lives, and takes the end of the desktop's session
+/// for an end of the program: windows asked to close would refuse it, or leave the wait behind.
+class SessionFilter : public QObject {
   public:
-    explicit InputFilter(ProgramEnd& programEnd) : end_(programEnd) {}
+    explicit SessionFilter(ProgramEnd& programEnd) : end_(programEnd) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
 
     bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Quit) return false;
+        end_.end();
+        return true;
+    }
+
+  private:
+    ProgramEnd& end_;
+};
+
+/// Swallows what the user does with mouse, keys and window frames as well.
+class InputFilter : public SessionFilter {
+  public:
+    using SessionFilter::SessionFilter;
+
+    bool eventFilter(QObject* receiver, QEvent* event) override {
         switch (event->type()) {
             case QEvent::MouseButtonPress:
             case QEvent::MouseButtonRelease:
@@ -36,21 +53,15 @@ class InputFilter : public QObject {
                 if (!event->spontaneous()) return false;
                 event->ignore();
                 return true;
-            case QEvent::Quit:
-                end_.end();
-                return true;
             default:
-                return false;
+                return SessionFilter::eventFilter(receiver, event);
         }
     }
-
-  private:
-    ProgramEnd& end_;
 };
 
 }  // namespace
 
-void QtEvents::pump() {
+void QtEvents::serve() {
     QEventLoop loop;
     if (!loop.processEvents(QEventLoop::AllEvents) && !end_.ended()) {
         QTimer wakeUp;
@@ -60,11 +71,19 @@ void QtEvents::pump() {
     end_.throwIfEnded();
 }
 
+void QtEvents::pump() {
+    serve();
+}
+
+void QtEvents::pumpEndless() {
+    const SessionFilter filter(end_);
+    serve();
+    end_.throwIfDeserted();
+}
+
 void QtEvents::serveWhileBlocked() {
-    InputFilter filter(end_);
-    QCoreApplication::instance()->installEventFilter(&filter);
-    QEventLoop().processEvents(QEventLoop::AllEvents);
-    end_.throwIfEnded();
+    const InputFilter filter(end_);
+    serve();
 }
 
 double QtEvents::secondsSinceMidnight() {

@@ -96,6 +96,7 @@ std::vector<std::string> Files::listFolder(std::string_view folder, std::string_
     if (!path || !isFolder(host_, *path)) return {};
     std::vector<std::string> names;
     for (const ListedName& each : host_.listNames(*path)) {
+        if (isUnderWay(each.name)) continue;
         std::string name = gameName(each.name);
         if (!matchesWildcard(pattern, name)) continue;
         // Plain files are always wanted; to ask for each would take most of a listing's time.
@@ -112,6 +113,24 @@ std::vector<std::string> Files::listFolder(std::string_view folder, std::string_
 std::string Files::firstMatch(std::string_view pattern, int attributes) {
     auto names = list(pattern, attributes);
     return names.empty() ? std::string() : std::move(names.front());
+}
+
+bool Files::canList(std::string_view folder) {
+    const auto path = paths_.find(folder);
+    return path && attempt([&] { host_.list(*path); });
+}
+
+std::vector<std::string> Files::filesIn(std::string_view folder) {
+    const auto path = paths_.find(folder);
+    if (!path || !isFolder(host_, *path)) return {};
+    std::vector<std::string> names;
+    for (const ListedName& each : host_.listNames(*path)) {
+        constexpr int anyFile = attributes::Hidden | attributes::System;
+        if (isUnderWay(each.name)) continue;
+        if (each.plainFile || isWanted(host_, *path / each.name, anyFile))
+            names.push_back(gameName(each.name));
+    }
+    return names;
 }
 
 std::uintmax_t Files::fileLength(std::string_view file) {

@@ -38,6 +38,12 @@ class Files {
     /// The first of `list`, or an empty text.
     std::string firstMatch(std::string_view pattern, int attributes);
 
+    /// Whether a folder is there and lets its names be listed, whatever they are.
+    bool canList(std::string_view folder);
+    /// Names of the files in a folder, hidden ones too, in no order; none if it is not there. For
+    /// many questions about one folder: to ask for each name costs a look at the disk each.
+    std::vector<std::string> filesIn(std::string_view folder);
+
     /// Bytes in a file; a folder measures 0. Raises 53.
     std::uintmax_t fileLength(std::string_view file);
     /// Copies over what is there. A copy that fails leaves what was there before and no fragment.

@@ -260,4 +260,8 @@ void replaceByCopy(Host& host, const HostPath& from, const HostPath& to) {
     replace({host, target, false, from, fill, always});
 }
 
+bool isUnderWay(std::string_view hostName) {
+    return hostName.starts_with(".tessaro") && hostName.ends_with(".tmp");
+}
+
 }  // namespace tessaro

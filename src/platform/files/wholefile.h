@@ -31,4 +31,8 @@ void requireReplaceable(Host& host, const HostPath& file);
 /// disk, so that the other one can be deleted.
 void replaceByCopy(Host& host, const HostPath& from, const HostPath& to);
 
+/// Whether a host name is that of a file that a write of ours has under way, or that a killed one
+/// left. It is in nobody's listings.
+bool isUnderWay(std::string_view hostName);
+
 }  // namespace tessaro

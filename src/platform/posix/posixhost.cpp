@@ -31,11 +31,6 @@ bool namesNothing(int error) {
     return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP;
 }
 
-bool beginsWithDot(const std::string& path) {
-    const std::size_t name = path.rfind('/') + 1;
-    return name < path.size() && path[name] == '.';
-}
-
 #ifdef __APPLE__
 timespec changeTime(const struct stat& info) {
     return info.st_ctimespec;
@@ -51,11 +46,10 @@ FolderStamp stampFrom(const struct stat& info) {
     return {info.st_dev, info.st_ino, changed.tv_sec * 1'000'000'000LL + changed.tv_nsec};
 }
 
-HostStatus statusFrom(const struct stat& info, const HostPath& path) {
+HostStatus statusFrom(const struct stat& info) {
     HostStatus status;
     status.folder = S_ISDIR(info.st_mode);
     status.readOnly = (info.st_mode & anyWriteBit) == 0;
-    status.hidden = beginsWithDot(path.native());  // as Wine sees it
     status.size = static_cast<std::uintmax_t>(info.st_size);
     status.names = info.st_nlink;
     status.stamp = stampFrom(info);
@@ -137,7 +131,7 @@ class PosixHost : public Host {
     std::optional<HostStatus> status(const HostPath& path) override {
         struct stat info = {};
         if (path.native().find('\0') != std::string::npos) return std::nullopt;  // no such name
-        if (::stat(path.c_str(), &info) == 0) return statusFrom(info, path);
+        if (::stat(path.c_str(), &info) == 0) return statusFrom(info);
         if (!namesNothing(errno)) raiseErrno(path);
         return std::nullopt;
     }
@@ -151,7 +145,7 @@ class PosixHost : public Host {
     std::vector<ListedName> listNames(const HostPath& folder) override {
         std::vector<ListedName> names;
         takeEntries(folder, [&](const dirent& entry) {
-            names.push_back({entry.d_name, entry.d_type == DT_REG && entry.d_name[0] != '.'});
+            names.push_back({entry.d_name, entry.d_type == DT_REG});
         });
         return names;
     }

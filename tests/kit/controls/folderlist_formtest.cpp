@@ -19,6 +19,7 @@ class FolderLists : public ::testing::Test {
         for (const char* folder : {"C:\\Games\\UT\\Cache", "C:\\Games\\UT\\Maps",
                                    "C:\\Games\\UT\\System", "C:\\Games\\UT\\.hidden"})
             world_.makeFolder(folder);
+        world_.host.hide(".hidden");
         world_.write("C:\\Games\\UT\\readme.txt", "no folder");
         list_.use(world_.files);
         list_.setPath("C:\\Games\\UT");

@@ -7,6 +7,7 @@
 
 #include "kit/forms/forms.h"
 #include "kit/forms/handler.h"
+#include "kit/outside/qtevents.h"
 #include "platform/runtime/runtimeerror.h"
 #include "support/forms/formsfixture.h"
 
@@ -304,6 +305,23 @@ TEST_F(FormRegistry, TheProgramRunsUntilNoFormIsLeft) {
     EXPECT_EQ(forms_.run(), 0);
     EXPECT_THAT(events, ElementsAre("made 1", "Load 1", "made 2", "Load 2", "QueryUnload 1",
                                     "Unload 1", "gone 1", "Unload 2"));
+}
+
+TEST_F(FormRegistry, AWaitWithoutAnEndIsLeftWhenTheLastFormHasGone) {
+    QtEvents realEvents(end_);
+    forms_.show<First>();
+    bool left = false;
+    QTimer::singleShot(1, [&] {
+        guarded(forms_, [&] {
+            QTimer::singleShot(1, [&] { forms_.get<First>().close(); });
+            for (;;) realEvents.pumpEndless();
+        });
+        left = true;
+    });
+    EXPECT_EQ(forms_.run(), 0);
+    EXPECT_TRUE(left);
+    realEvents.pump();  // an ordinary wait comes to its own end
+    EXPECT_FALSE(forms_.ended());
 }
 
 TEST_F(FormRegistry, AProgramThatEndedAtItsStartDoesNotRun) {

@@ -47,6 +47,27 @@ TEST_F(RealEvents, TheClockLiesWithinADay) {
     EXPECT_LT(now, 86400);
 }
 
+/// A wait that nothing limits, in which the windows stay in use.
+class EndlessPump : public RealEvents {
+  protected:
+    QtEvents events_{end_};
+};
+
+TEST_F(EndlessPump, ServesTheUser) {
+    QPushButton button;
+    bool clicked = false;
+    QObject::connect(&button, &QPushButton::clicked, [&] { clicked = true; });
+    QTimer::singleShot(0, &button, [&] { QTest::mouseClick(&button, Qt::LeftButton); });
+    while (!clicked) events_.pumpEndless();
+    EXPECT_TRUE(clicked);
+}
+
+TEST_F(EndlessPump, TheEndOfTheDesktopsSessionEndsTheProgramAtOnce) {
+    QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit));
+    EXPECT_THROW(events_.pumpEndless(), ProgramEnded);
+    EXPECT_TRUE(end_.ended());
+}
+
 /// A window that the user tries to use while a child process runs.
 class RepaintDuringAChild : public test::FormsTest {
   protected:

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "platform/files/standins.h"
 #include "support/testworld.h"
 
 namespace tessaro {
@@ -16,6 +17,7 @@ using test::errorOf;
 using test::TestWorld;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 
 constexpr int all = attributes::ReadOnly | attributes::Hidden | attributes::System |
                     attributes::Archive;  // without folders
@@ -37,6 +39,7 @@ TEST(Files, ListsNamesInOrderWithoutRegardToCase) {
 TEST(Files, ANormalListingHidesFoldersAndHiddenFiles) {
     TestWorld world;
     world.write("C:\\s\\.hidden", "");
+    world.host.hide(".hidden");
     world.write("C:\\s\\seen", "");
     world.makeFolder("C:\\s\\folder");
     EXPECT_THAT(world.files.list("C:\\s\\*.*", attributes::Normal), ElementsAre("seen"));
@@ -48,15 +51,16 @@ TEST(Files, ANormalListingHidesFoldersAndHiddenFiles) {
 
 TEST(Files, WhatAListingTellsOfItsNamesMakesNoDifference) {
     TestWorld world;
-    for (const char* name : {"plain", ".hidden", "folder\\file"})
+    for (const char* name : {"plain", ".dotted", "folder\\file"})
         world.write(std::string("C:\\s\\") + name, "");
     fs::create_symlink("plain", world.at("C:\\s\\link"));
     fs::create_symlink("folder", world.at("C:\\s\\linked folder"));
     fs::create_symlink("nowhere", world.at("C:\\s\\lost"));
     const auto real = makeHost();  // tells more than the failing twin does
     Files files(*real, world.paths);
-    EXPECT_THAT(files.list("C:\\s\\*.*", attributes::Normal), ElementsAre("link", "plain"));
-    EXPECT_THAT(files.list("C:\\s\\*.*", all), ElementsAre(".hidden", "link", "plain"));
+    EXPECT_THAT(files.list("C:\\s\\*.*", attributes::Normal),
+                ElementsAre(".dotted", "link", "plain"));
+    EXPECT_THAT(files.list("C:\\s\\*.*", all), ElementsAre(".dotted", "link", "plain"));
     for (const int wanted : {attributes::Normal, int(attributes::Directory), all})
         EXPECT_EQ(files.list("C:\\s\\*.*", wanted), world.files.list("C:\\s\\*.*", wanted));
 }
@@ -107,6 +111,21 @@ TEST(Files, AMissingFolderListsNothing) {
     EXPECT_THAT(world.files.list("C:\\nowhere\\*.*", all), IsEmpty());
     EXPECT_THAT(world.files.list("C:\\nowhere\\", attributes::Directory), IsEmpty());
     EXPECT_THAT(world.files.list("C:\\nowhere\\x", all), IsEmpty());
+}
+
+TEST(Files, TheFilesOfAFolderAreToldInOneListing) {
+    TestWorld world;
+    for (const char* name : {"b.bak", ".hidden", "a?b"})
+        world.write(std::string("C:\\s\\") + name, "");
+    world.makeFolder("C:\\s\\folder");
+    makeReadOnly(world.at("C:\\s\\b.bak"));
+    EXPECT_THAT(world.files.filesIn("c:\\S"),
+                UnorderedElementsAre("b.bak", ".hidden", gameName("a?b")));
+    const int before = world.host.count(Call::List);
+    world.files.filesIn("C:\\s");
+    EXPECT_EQ(world.host.count(Call::List), before + 1);
+    EXPECT_THAT(world.files.filesIn("C:\\none"), IsEmpty());
+    EXPECT_THAT(world.files.filesIn("C:\\s\\b.bak"), IsEmpty());
 }
 
 TEST(Files, AMissingDriveRaises68) {

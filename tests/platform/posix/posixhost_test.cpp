@@ -48,9 +48,9 @@ TEST(PosixHost, StatusTellsFilesFromFolders) {
     EXPECT_FALSE(real.host->status(file / "below"));
 }
 
-TEST(PosixHost, ANameThatBeginsWithADotIsHidden) {
+TEST(PosixHost, ANameThatBeginsWithADotIsAnOrdinaryOne) {
     const Real real;
-    EXPECT_TRUE(real.host->status(real.write(".hidden"))->hidden);
+    EXPECT_FALSE(real.host->status(real.write(".dotted"))->hidden);
     EXPECT_FALSE(real.host->status(real.write("seen.txt"))->hidden);
 }
 
@@ -104,7 +104,7 @@ TEST(PosixHost, AListingTellsPlainFilesFromAllElse) {
     for (const ListedName& each : real.host->listNames(real.folder.path()))
         plain[each.name] = each.plainFile;
     EXPECT_EQ(plain, (std::map<std::string, bool>{{"file", true},
-                                                  {".hidden", false},
+                                                  {".hidden", true},
                                                   {"folder", false},
                                                   {"link", false},
                                                   {"pipe", false}}));
