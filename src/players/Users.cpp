@@ -26,7 +26,7 @@ Users::~Users() = default;
 
 void Users::setupList() {
     ui_->ListView1->show(rows_);
-    setColumnWidths(*ui_->ListView1, {16, 19, 8, 26, 30, 30, 19});
+    setColumnWidths(*ui_->ListView1, {16, 20, 8, 26, 30, 30, 19});
     ui_->ListView1->header()->setStretchLastSection(true);
     // The form opens as wide as its columns, whatever the font.
     ui_->ListView1->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);

@@ -32,6 +32,7 @@ void username::setupCommands() {
     on(ui_->Command3, &QPushButton::clicked, forms(), [this] { applyStyle(3); });
     on(ui_->ok, &QPushButton::clicked, forms(), [this] { confirm(); });
     on(ui_->Command4, &QPushButton::clicked, forms(), close);
+    setCancelButton(*ui_->Command4);
 }
 
 void username::Load() {
