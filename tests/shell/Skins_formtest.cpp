@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -148,6 +149,16 @@ TEST_F(SkinTest, NoSkinTouchesTheLettersOfListsAndTextBoxes) {
         dressedIn(skin);
         EXPECT_EQ(form.ui.ListView1->palette().color(QPalette::Text), designed) << skin;
         EXPECT_EQ(form.ui.Text9->palette().color(QPalette::Text), designed) << skin;
+    }
+}
+
+TEST_F(SkinTest, TheHeadOfAListCanBeReadInEverySkin) {
+    for (const char* skin : {"0", "1", "2"}) {
+        const QPalette head = dressedIn(skin).ui.ListView1->header()->palette();
+        EXPECT_GT(
+            head.color(QPalette::Button).lightness() - head.color(QPalette::ButtonText).lightness(),
+            128)
+            << skin;
     }
 }
 

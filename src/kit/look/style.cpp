@@ -72,10 +72,13 @@ bool isField(const QWidget& widget) {
 void setFieldLetters(QWidget& field) {
     QPalette palette = field.palette();
     setColours(palette, {{QPalette::Text, fieldLetters, paleFieldLetters},
-                         {QPalette::ButtonText, fieldLetters, paleFieldLetters},
                          {QPalette::PlaceholderText, paleFieldLetters, paleFieldLetters},
                          {QPalette::Highlight, QColor(224, 224, 224), QColor(190, 190, 190)},
                          {QPalette::HighlightedText, letters, letters}});
+    // A list that drops down is drawn as a button; the head of another list is one, on a pale
+    // ground.
+    if (qobject_cast<QComboBox*>(&field) != nullptr)
+        setColours(palette, {{QPalette::ButtonText, fieldLetters, paleFieldLetters}});
     field.setPalette(palette);
 }
 
