@@ -207,12 +207,12 @@ constexpr std::string_view textEnd = "end=1\n";
 
 // Takes longer than one of our changes.
 void dawdle() {
-    for (int call = 0; call < 5'000; ++call) ::getppid();
+    for (int call = 0; call < 3'000; ++call) ::getppid();
 }
 
 // Rewrites the file in place again and again, in two halves.
 int rewriteInPlace(const HostPath& file) {
-    for (int round = 0; round < 300; ++round, dawdle()) {
+    for (int round = 0; round < 100; ++round, dawdle()) {
         Writer writer(file, O_TRUNC);
         if (!writer.write("[s]\nround=" + std::to_string(round) + "\n")) return 1;
         dawdle();

@@ -135,22 +135,24 @@ TEST(Likeness, AFoldersListOpensNoFileThatHadNoneButGivesNewOnesTheirs) {
 }
 
 TEST(Likeness, AListThatANewFileCannotHaveIsKeptByTheOldOne) {
-    const Place place;
-    const HostPath file = place.write("file", 0600);
-    const std::string list =
-        listOf({{owner, 6}, {aUser, 6, 1234}, {group, 4}, {mask, 6}, {others, 0}});
-    if (!Place::setAttribute(file, accessList, list)) GTEST_SKIP() << "no access lists here";
-    const int result = Place::inAChild([&](Host& host) {
-        if (!refuseCall(SYS_fsetxattr, ENOTSUP)) return notHere;
-        host.create(place.at("like it"), file)->close();
-        replaceFile(host, file, "new");
-        return 0;
-    });
-    if (result == notHere) GTEST_SKIP() << "calls cannot be refused here";
-    EXPECT_EQ(result, 0);
-    EXPECT_EQ(TestWorld::readHost(file), "new");
-    EXPECT_EQ(Place::attribute(file, accessList), list);
-    EXPECT_EQ(Place::modeOf(place.at("like it")), 0600U);
+    for (const std::uint16_t bound : {std::uint16_t{6}, std::uint16_t{0}}) {
+        const Place place;
+        const HostPath file = place.write("file", 0600);
+        const std::string list =
+            listOf({{owner, 6}, {aUser, 6, 1234}, {group, 4}, {mask, bound}, {others, 0}});
+        if (!Place::setAttribute(file, accessList, list)) GTEST_SKIP() << "no access lists here";
+        const int result = Place::inAChild([&](Host& host) {
+            if (!refuseCall(SYS_fsetxattr, ENOTSUP)) return notHere;
+            host.create(place.at("like it"), file)->close();
+            replaceFile(host, file, "new");
+            return 0;
+        });
+        if (result == notHere) GTEST_SKIP() << "calls cannot be refused here";
+        EXPECT_EQ(result, 0);
+        EXPECT_EQ(TestWorld::readHost(file), "new");
+        EXPECT_EQ(Place::attribute(file, accessList), list);
+        EXPECT_EQ(Place::modeOf(place.at("like it")), 0600U);
+    }
 }
 
 TEST(Likeness, AttributesAreKept) {
