@@ -89,9 +89,9 @@ struct ListedName {
 
 /// What the program asks of the operating system's files, on its one thread. It is made once and
 /// lent to all who need it; what its members give belongs to the caller and must not outlive it.
-/// Links are followed. Every member raises
-/// RunTimeError with the number that fits the host's error, 52 for a name that no file can bear
-/// (one with a NUL in it); the failing twin of the tests raises where it is told to.
+/// Links are followed. Every member raises RunTimeError with the number that fits the host's error,
+/// 52 for a name that no file can bear (one with a NUL in it); the failing twin of the tests raises
+/// where it is told to.
 class Host {
   public:
     virtual ~Host() = default;

@@ -1,5 +1,7 @@
 #include "platform/files/standins.h"
 
+#include <algorithm>
+
 namespace tessaro {
 
 namespace {
@@ -44,6 +46,7 @@ bool needsStandIn(std::string_view hostName) {
 }
 
 std::string gameName(std::string_view hostName) {
+    if (!needsStandIn(hostName)) return std::string(hostName);
     std::string name;
     while (!hostName.empty()) {
         if (letterAt(hostName) != 0) {
@@ -60,6 +63,7 @@ std::string gameName(std::string_view hostName) {
 }
 
 std::string hostName(std::string_view gameName) {
+    if (gameName.find(startOfStandIns) == std::string_view::npos) return std::string(gameName);
     std::string name;
     while (!gameName.empty()) {
         const char letter = letterAt(gameName);
@@ -77,6 +81,7 @@ std::string hostName(std::string_view gameName) {
 }
 
 std::string writtenName(std::string_view part) {
+    if (std::none_of(part.begin(), part.end(), hasMeaning)) return std::string(part);
     std::string name;
     for (const char letter : part) hasMeaning(letter) ? name += standIn(letter) : name += letter;
     return name;

@@ -148,13 +148,15 @@ Outcome renameOver(const Replacement& job, const HostPath& name) {
 }
 
 Outcome renameOver(const Replacement& job) {
+    bool alone = job.alone;
     for (int tries = 1;; ++tries) {
-        const HostPath name = job.target.parent_path() / temporaryName(job.alone);
+        const HostPath name = job.target.parent_path() / temporaryName(alone);
         try {
             return renameOver(job, name);
         } catch (const RunTimeError& error) {
             if (error.number() != errors::FileAlreadyExists || tries == mostTries) throw;
-            if (job.alone) attempt([&] { job.host.removeFile(name); });
+            // What another user left may not be ours to remove.
+            if (alone) alone = attempt([&] { job.host.removeFile(name); });
         }
     }
 }
@@ -169,7 +171,7 @@ void copyTo(Host& host, const HostPath& file, const HostPath& copy) {
 // Beside the file if that can be, so that after a kill the player finds it.
 HostPath keptCopy(Host& host, const HostPath& file) {
     const std::string name = file.filename().string() + ".tessaro-" + chanceDigits() + ".bak";
-    const HostPath beside = file.parent_path() / name;
+    HostPath beside = file.parent_path() / name;
     if (attempt([&] { copyTo(host, file, beside); })) return beside;
     HostPath elsewhere = host.keepingFolder() / name;
     copyTo(host, file, elsewhere);

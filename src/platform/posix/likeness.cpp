@@ -115,14 +115,14 @@ std::optional<Likeness> Likeness::of(const HostPath& file) {
 bool Likeness::giveTo(int file) const {
     giveOwner(file);
     giveAccessList(file, accessList_);
-    if (accessListOf(file) == accessList_) givePermissions(file);
+    if (accessListOf(file) == accessList_) givePermissions(file, true);
     for (const auto& [name, value] : attributes_) giveAttribute(file, name, value);
     return isOf(file);
 }
 
 void Likeness::giveToCopy(int file) const {
     giveOwner(file);
-    givePermissions(file);
+    givePermissions(file, accessList_.empty());
 }
 
 // Only a privileged user may give files away; most may choose among their own groups.
@@ -132,12 +132,13 @@ void Likeness::giveOwner(int file) const {
     }
 }
 
-// What the old group had is not for another one, which gets no more than everybody.
-void Likeness::givePermissions(int file) const {
+// What the old group had is not for another one, nor does it tell what the group had where the list
+// is missing. It gets no more than everybody then.
+void Likeness::givePermissions(int file, bool listed) const {
     struct stat info = {};
     if (::fstat(file, &info) == -1) return;
     const mode_t others = (permissions_ & S_IRWXO) << groupShift;
-    const mode_t forGroup = info.st_gid == group_ ? S_IRWXG : others;
+    const mode_t forGroup = listed && info.st_gid == group_ ? S_IRWXG : others;
     passOver(::fchmod(file, permissions_ & (S_IRWXU | S_IRWXO | forGroup)));
 }
 

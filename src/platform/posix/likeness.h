@@ -30,7 +30,7 @@ class Likeness {
 
   private:
     void giveOwner(int file) const;
-    void givePermissions(int file) const;
+    void givePermissions(int file, bool listed) const;
     bool isOf(int file) const;
 
     uid_t owner_ = 0;

@@ -105,7 +105,9 @@ TEST(Likeness, AReplacementGivesTheGroupNoRightThroughTheListsMask) {
     EXPECT_EQ(TestWorld::readHost(file), "new");
     EXPECT_EQ(Place::attribute(file, accessList), list);
     EXPECT_EQ(Place::modeOf(file), 0660U);
-    EXPECT_EQ(Place::statusOf(file).st_nlink, 1U);
+    replaceByCopy(*place.host, file, place.at("copy"));
+    EXPECT_EQ(Place::attribute(place.at("copy"), accessList), "none");
+    EXPECT_EQ(Place::modeOf(place.at("copy")), 0600U);
 }
 
 TEST(Likeness, AFoldersListOpensNoFileThatHadNoneButGivesNewOnesTheirs) {
