@@ -19,7 +19,7 @@ constexpr Team teams[] = {
 constexpr const Team& noTeam = teams[std::size(teams) - 1];
 
 const Team& teamWhere(std::string_view Team::*field, std::string_view text) {
-    const auto found = std::ranges::find(teams, text, field);
+    const auto* const found = std::ranges::find(teams, text, field);
     return found == std::end(teams) ? noTeam : *found;
 }
 
