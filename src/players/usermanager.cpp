@@ -39,7 +39,7 @@ void UserManager::save() {
 /// Says so of a player who was in the archive before, too.
 void UserManager::saveCurrent() {
     userMan_.OfferSaveCurrentPlayer(view_);
-    if (userMan_.IsNewPlayerName(view_) == Yes) return;
+    if (UserMan::IsNewPlayerName(view_) == Yes) return;
     program_.dialogs.message(
         {"The Current User has been saved", "User Exists", Buttons::Ok, Icon::Information});
 }
