@@ -113,6 +113,37 @@ TEST(Files, AMissingFolderListsNothing) {
     EXPECT_THAT(world.files.list("C:\\nowhere\\x", all), IsEmpty());
 }
 
+/// Gives the file `b` the number that the file `a` has, on the same disk or on another one.
+class SameNumber : public test::FailingHost {
+  public:
+    SameNumber(Host& real, bool otherDisk) : FailingHost(real), otherDisk_(otherDisk) {}
+
+    std::optional<HostStatus> status(const HostPath& path) override {
+        auto found = test::FailingHost::status(path);
+        if (found && path.filename() == "b") {
+            found->stamp = test::FailingHost::status(path.parent_path() / "a")->stamp;
+            if (otherDisk_) ++found->stamp.device;
+        }
+        return found;
+    }
+
+  private:
+    bool otherDisk_;
+};
+
+TEST(Files, ACopyOntoAFileOfTheSameNumberIsRefusedOnTheSameDiskOnly) {
+    TestWorld world;
+    world.write("C:\\a", "new");
+    world.write("C:\\b", "old");
+    SameNumber oneDisk(world.host, false);
+    EXPECT_EQ(errorOf([&] { Files(oneDisk, world.paths).copyFile("C:\\a", "C:\\b"); }),
+              errors::PermissionDenied);
+    EXPECT_EQ(world.read("C:\\b"), "old");
+    SameNumber twoDisks(world.host, true);
+    Files(twoDisks, world.paths).copyFile("C:\\a", "C:\\b");
+    EXPECT_EQ(world.read("C:\\b"), "new");
+}
+
 TEST(Files, TheFilesOfAFolderAreToldInOneListing) {
     TestWorld world;
     for (const char* name : {"b.bak", ".hidden", "a?b"})
