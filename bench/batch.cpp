@@ -20,6 +20,7 @@ constexpr double mark = 1.15;
 class NoObserver : public BatchObserver {
   public:
     void setRunning(bool) override {}
+    bool abandoned() override { return false; }
     void showExisting(int) override {}
     void showProgress(int) override {}
     void closeTool() override {}
