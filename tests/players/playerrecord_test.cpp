@@ -64,8 +64,9 @@ TEST(PlayerLine, FieldsBeyondTheSeventhAreIgnored) {
 }
 
 TEST(UserTable, HasTheSevenColumns) {
+    const ListItems table = makeUserTable();
     std::vector<std::string> captions;
-    for (const ListColumn& column : makeUserTable().columns()) captions.push_back(column.caption);
+    for (const ListColumn& column : table.columns()) captions.push_back(column.caption);
     EXPECT_THAT(captions,
                 ElementsAre("Name", "Class", "Team", "Skin", "Face", "Voice Pack", "Backup File"));
 }
