@@ -28,7 +28,7 @@ class Bitmaps : public ::testing::Test {
     int errorOfReading(const std::string& bytes) {
         return errorOf([&] { read(bytes); });
     }
-    /// Colours from the top left pixel on, row by row.
+    // Colours from the top left pixel on, row by row.
     static std::string pixelsOf(const QImage& image) {
         std::string pixels;
         for (int y = 0; y < image.height(); ++y)
@@ -182,8 +182,8 @@ TEST_F(Bitmaps, ThoseThatClaimToBeHugeAreNotEvenTried) {
     const std::pair<int, int> sizes[] = {{60000, 60000}, {60000, -60000}, {2147483647, 2147483647},
                                          {32768, 1},     {1, 32768},      {8192, 4097},
                                          {32767, 32767}, {2147483647, 1}};
-    for (const unsigned bits : {1u, 8u, 24u, 32u})
-        for (const auto& [width, height] : sizes)
+    for (const unsigned bits : {1u, 8u, 24u, 32u}) {
+        for (const auto& [width, height] : sizes) {
             EXPECT_EQ(errorOfReading(bytesOf({.width = width,
                                               .height = height,
                                               .bits = bits,
@@ -191,6 +191,8 @@ TEST_F(Bitmaps, ThoseThatClaimToBeHugeAreNotEvenTried) {
                                               .rows = std::string(64, '\0')})),
                       errors::InvalidPicture)
                 << width << " by " << height << " of " << bits;
+        }
+    }
 }
 
 TEST_F(Bitmaps, TheLongestSideIsWhatAWindowCanBe) {
