@@ -30,7 +30,7 @@ class WizardForm : public GameFormsTest {
         program_.settings.Sounds = "0";
         program_.settings.Skin = "1";
     }
-    /// An index of three maps that are there and one that is gone.
+    // An index of three maps that are there and one that is gone.
     void makeCache() {
         std::string index = "[Cache]\r\n";
         for (const char letter : std::string("ABC")) {
@@ -55,7 +55,7 @@ class WizardForm : public GameFormsTest {
     }
     bool visible(const char* name) { return the<QWidget>(name).isVisible(); }
     void type(const char* box, const std::string& text) { the<QLineEdit>(box).setText(toQt(text)); }
-    /// To step three, with the current installation as destination.
+    // To step three, with the current installation as destination.
     void goToStepThree() {
         makeCache();
         shown();
@@ -112,9 +112,9 @@ const Text wizardTexts[] = {
     {"labelText7", "Extracted:"},
     {"labelText8", "Failed:"},
     {"labelText9", "Existing files found:"},
-    {"Text7", "", "This is the number of files that were actually copied from your UT Cache"},
-    {"Text8", "", "Failures Occur when UT removes the file(s) listed in the cache.ini"},
-    {"Text9", "", "This is the number of files that were actually copied from your UT Cache"},
+    {"Text7", "0", "This is the number of files that were actually copied from your UT Cache"},
+    {"Text8", "0", "Failures Occur when UT removes the file(s) listed in the cache.ini"},
+    {"Text9", "0", "This is the number of files that were actually copied from your UT Cache"},
     {"Check1", "Overwrite Existing"},
     {"Command8", "&Extract"},
     {"Command3", "&Stop"},
@@ -471,7 +471,7 @@ bool showsText(const QWidget& widget) {
             qobject_cast<const QLabel*>(&widget) != nullptr);
 }
 
-/// No control on show needs more room than it has.
+// No control on show needs more room than it has.
 void expectWhole(const QWidget& form, int points) {
     for (const QWidget* widget : form.findChildren<QWidget*>()) {
         if (!showsText(*widget)) continue;
