@@ -7,6 +7,10 @@ target_sources(tessaro_forms PRIVATE ${CMAKE_SOURCE_DIR}/resources/tessaro.qrc)
 target_link_libraries(tessaro_forms PUBLIC tessaro_logic Qt6::Widgets PRIVATE Qt6::Multimedia)
 target_compile_definitions(tessaro_forms PUBLIC
     QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+tessaro_sanitize(tessaro_forms)
+# What most forms include; reading it took them two thirds of their time.
+target_precompile_headers(tessaro_forms PRIVATE
+    <QApplication> <QBoxLayout> <QHeaderView> <QLabel> <QLineEdit> <QMenu> <QMouseEvent> <QPainter> <QPushButton>)
 
 # Not by AUTOUIC: it does not tell Ninja which headers it writes, and a change of an .ui alone came
 # into the program one build late. They go where it wrote them, so that no older one is found first.
