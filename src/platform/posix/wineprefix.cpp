@@ -1,9 +1,7 @@
-#include <pwd.h>
-#include <unistd.h>
-
 #include <cstdlib>
 
 #include "platform/files/drives.h"
+#include "platform/posix/home.h"
 #include "platform/text/ascii.h"
 
 namespace tessaro {
@@ -12,16 +10,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-HostPath home() {
-    if (const char* fromEnvironment = std::getenv("HOME"); fromEnvironment && *fromEnvironment)
-        return fromEnvironment;
-    const passwd* user = ::getpwuid(::getuid());
-    return user && user->pw_dir ? user->pw_dir : "/";
-}
-
 HostPath winePrefix() {
     const char* prefix = std::getenv("WINEPREFIX");
-    return prefix && *prefix ? HostPath(prefix) : home() / ".wine";
+    return prefix && *prefix ? HostPath(prefix) : homeFolder() / ".wine";
 }
 
 // Adds nothing if there is no such folder, as for a link whose disk is not plugged in.
