@@ -2,7 +2,9 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Multimedia)
 
 add_library(tessaro_forms STATIC)
-set_target_properties(tessaro_forms PROPERTIES AUTOMOC ON AUTORCC ON)
+# The first format of resources holds no dates, so that each build gives the same bytes.
+set_target_properties(tessaro_forms PROPERTIES AUTOMOC ON AUTORCC ON
+    AUTORCC_OPTIONS "--format-version;1")
 target_sources(tessaro_forms PRIVATE ${CMAKE_SOURCE_DIR}/resources/tessaro.qrc)
 target_link_libraries(tessaro_forms PUBLIC tessaro_logic Qt6::Widgets PRIVATE Qt6::Multimedia)
 target_compile_definitions(tessaro_forms PUBLIC

@@ -9,7 +9,8 @@ font_packages=(fonts-dejavu-core)
 screen_packages=(xvfb xauth "${font_packages[@]}")
 test_packages=("${tool_packages[@]}" "${font_packages[@]}" libgtest-dev libgmock-dev)
 bench_packages=("${tool_packages[@]}" "${screen_packages[@]}" libglib2.0-dev pkg-config)
-check_packages=(clang clang-format clang-tidy)
+package_packages=(dpkg-dev file)
+check_packages=(clang clang-format clang-tidy desktop-file-utils appstream)
 
 # install PACKAGE...: installs those that are missing, as root or through sudo. Says what that costs,
 # and what to do where it is not allowed.
