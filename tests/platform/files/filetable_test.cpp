@@ -40,6 +40,16 @@ TEST(FileTable, ALastLineWithoutAnEndCounts) {
     EXPECT_THAT(linesIn("\n"), ElementsAre(""));
 }
 
+TEST(FileTable, LongLinesEndWhereverTheirEndStands) {
+    for (std::size_t size = 120; size <= 264; ++size) {
+        const std::string line(size, 'x');
+        for (const char* end : {"\r\n", "\r", "\n"})
+            EXPECT_THAT(linesIn("a\n" + line + end + "b" + end), ElementsAre("a", line, "b"));
+        EXPECT_THAT(linesIn(line + "\n\r" + line), ElementsAre(line, "", line));
+        EXPECT_THAT(linesIn("a\r" + line), ElementsAre("a", line));
+    }
+}
+
 TEST(FileTable, AnEmptyFileIsAtItsEnd) {
     EXPECT_THAT(linesIn(""), IsEmpty());
     EXPECT_THAT(linesIn("\xEF\xBB\xBF"), IsEmpty());
