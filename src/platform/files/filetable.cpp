@@ -53,6 +53,11 @@ void FileTable::openAppend(int number, std::string_view file) {
     open_.emplace(number, std::move(opening));
 }
 
+void FileTable::touch(int number, std::string_view file) {
+    requireFree(number);
+    files_.touch(file);
+}
+
 std::string FileTable::lineInput(int number) {
     OpenFile& file = opened(number, true);
     if (file.position == file.text.size()) throw RunTimeError(errors::InputPastEnd, file.path);

@@ -86,6 +86,26 @@ TEST(FileTable, OpeningForInputRaisesWhatFits) {
     EXPECT_EQ(world.table.freeNumber(), 1);
 }
 
+TEST(FileTable, TouchingMakesTheFileAndChangesNoneThatIsThere) {
+    TestWorld world;
+    world.write("C:\\a", "old");
+    world.table.touch(1, "C:\\a");
+    world.table.touch(1, "C:\\new");
+    EXPECT_EQ(world.read("C:\\a"), "old");
+    EXPECT_EQ(world.read("C:\\new"), "");
+    EXPECT_EQ(errorOf([&] { world.table.touch(1, "C:\\no\\x"); }), errors::PathNotFound);
+    EXPECT_EQ(world.table.freeNumber(), 1);
+}
+
+TEST(FileTable, TouchingRaisesWhatOpeningTheNumberRaises) {
+    TestWorld world;
+    world.write("C:\\a", "");
+    world.table.openInput(1, "C:\\a");
+    EXPECT_EQ(errorOf([&] { world.table.touch(1, "C:\\b"); }), errors::FileAlreadyOpen);
+    EXPECT_EQ(errorOf([&] { world.table.touch(0, "C:\\b"); }), errors::BadFileNumber);
+    EXPECT_FALSE(world.exists("C:\\b"));
+}
+
 TEST(FileTable, ANumberInUseRaises55) {
     TestWorld world;
     world.write("C:\\a", "");
