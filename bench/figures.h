@@ -10,9 +10,11 @@ bool extractMissingFiles();
 bool extractPresentFiles();
 /// A key of a large profile file, read and written, against GLib's key file parser.
 bool profileFile();
-/// The favourites of the game's browser, read key by key from a large file, against GLib's key file
-/// parser; and what one of many costs, against one of few.
+/// The favourites of the game's browser, imported into the server list from a large file, against
+/// GLib's key file parser; and what one of many costs, against one of few in a file of that size.
 bool importFavorites();
+/// The server list, loaded and saved, against reading and writing the same lines.
+bool serverList();
 
 /// The player archive: loading its list, and choosing the name of the next copy, against reading
 /// the same lines and asking the system for each file, and against listing the folder once.
