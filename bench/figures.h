@@ -22,6 +22,12 @@ bool playerList();
 /// From a process's start to its main window's first paint, and the memory resident then, against
 /// an empty main window.
 bool firstPaint();
+/// A large file in the editor, loaded, typed into, saved and searched, against Qt's text box and
+/// search and the system's own write.
+bool editor();
+/// The screenshot viewer's opening on many shots, against listing the folder and reading one
+/// picture with Qt; and its step to another picture, against reading and painting that with Qt.
+bool screenshots();
 /// A batch through the compressor, against a shell's loop over the same files.
 bool compressBatch();
 

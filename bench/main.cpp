@@ -13,7 +13,7 @@ int main() {
         bool kept = true;
         for (const auto figure :
              {extractMissingFiles, extractPresentFiles, profileFile, importFavorites, serverList,
-              playerList, firstPaint, compressBatch}) {
+              playerList, firstPaint, editor, screenshots, compressBatch}) {
             kept = figure() && kept;
         }
         return kept ? 0 : 1;
