@@ -57,14 +57,14 @@ std::string gameIniWith(int favorites) {
     return text;
 }
 
-/// A game with so many favourites. It lies on a disk, as a player's does.
+// A game with so many favourites. It lies on a disk, as a player's does.
 class Game {
   public:
     explicit Game(int favorites) : favorites_(favorites) {
         world_.write(gameIni, gameIniWith(favorites));
     }
 
-    /// Milliseconds of an import into an empty list by a program that has read nothing yet.
+    // Milliseconds of an import into an empty list by a program that has read nothing yet.
     double import() {
         FreshProgram fresh(world_);
         ListItems list = makeServerList();

@@ -23,7 +23,7 @@ constexpr Line editorLines[] = {{"editor, load of 10 MB", 1.30},
 constexpr Line screenshotLines[] = {{"screenshots, opening on 2,000", 1.50},
                                     {"screenshots, step to the next", 1.30}};
 
-/// Reports what a program of `window/` tells, a line for each of `lines`.
+// Reports what a program of `window/` tells, a line for each of `lines`.
 template <std::size_t count>
 bool reportToldBy(const char* name, const Line (&lines)[count]) {
     const HostPath program = executablePath().parent_path() / name;

@@ -36,7 +36,7 @@ void require(bool right, const char* what) {
     if (!right) throw std::runtime_error(what);
 }
 
-/// The user at the file picker, who knows what to choose.
+// The user at the file picker, who knows what to choose.
 class Chooser : public NoDialogs {
   public:
     std::string choice;
@@ -67,7 +67,7 @@ std::string longLinesUpTo(std::size_t size) {
     return text;
 }
 
-/// The program with its editor on the screen.
+// The program with its editor on the screen.
 class EditorProgram {
   public:
     explicit EditorProgram(World& world) : fresh_(world, chooser_), forms_(chooser_, end_) {
@@ -92,7 +92,7 @@ class EditorProgram {
     Forms forms_;
 };
 
-/// A text box of Qt's own, as large as the editor's.
+// A text box of Qt's own, as large as the editor's.
 class PlainBox {
   public:
     explicit PlainBox(const QPlainTextEdit& like) {
@@ -169,7 +169,7 @@ Medians save(EditorProgram& program, const World& world) {
         [&] { return wallMilliseconds([&] { writeNewAndRename(other, bytes); }); });
 }
 
-/// Remembers where the hit is.
+// Remembers where the hit is.
 class Marker : public SearchView {
   public:
     std::size_t start = 0;

@@ -29,7 +29,7 @@ std::string shotName(int number) {
     return "Shot" + std::string(4 - digits.size(), '0') + digits + ".bmp";
 }
 
-/// Two pictures as the game takes them, each under every other name.
+// Two pictures as the game takes them, each under every other name.
 void takeShots(const World& world) {
     sample::Rng rng(1);
     const HostPath folder = world.at(systemFolder);
@@ -48,7 +48,7 @@ QPixmap readReference(const QString& file) {
     return picture;
 }
 
-/// The viewer in a program as fresh as after its start.
+// The viewer in a program as fresh as after its start.
 class Viewer {
   public:
     explicit Viewer(World& world) : fresh_(world) { forms_.add<screenshot>(fresh_.program); }

@@ -49,7 +49,7 @@ void inieditor::setupLabels() {
        [this] { popUp(forms().get<inieditorpopup>().mnueditini(), editMenuLeft); });
 }
 
-/// Beside the frame's plate, since the menus' places lie above the form's content.
+// Beside the frame's plate, since the menus' places lie above the form's content.
 void inieditor::placeLabels() {
     int left = leftimg->maximumWidth() + 1;
     for (QToolButton* label : {ui_->fakefile, ui_->fakedit}) {

@@ -15,7 +15,7 @@ const Message closeQuestion{"These settings are not valid. Close Tessaro?", "Pre
 
 class PrefsForm : public PrefsFormFixture {
   protected:
-    /// Whether closing asks to save. The dialog stays open if so.
+    // Whether closing asks to save. The dialog stays open if so.
     bool closingAsks() {
         const std::size_t before = dialogs().messages.size();
         dialogs().answer(Answer::Cancel);
@@ -176,16 +176,14 @@ TEST_F(PrefsForm, ReopeningAfterCancelShowsTheStoredValuesAgain) {
 
 TEST_F(PrefsForm, EverythingThatIsSetIsSaved) {
     openOnGame();
-    for (const char* name : {"Check1", "Check2", "Check3", "Check4", "Option4", "Option6"}) {
+    for (const char* name : {"Check1", "Check2", "Check3", "Check4", "Option4", "Option6"})
         click(name);
-    }
     type("Text2", "14");
     type("Text3", "DM-Own.unr");
     click("Command6");
     for (const char* line : {"Sounds=0", "AutoSave=1", "ShowSplash=1", "Skin=1", "TimesUsed=7",
-                             "UTPath=C:\\UT", "VORNX=C:\\Taken"}) {
+                             "UTPath=C:\\UT", "VORNX=C:\\Taken"})
         EXPECT_TRUE(holds(settingsFile, line)) << line;
-    }
     EXPECT_TRUE(holds(gameIni, "LocalMap=DM-Own.unr"));
     EXPECT_TRUE(holds(gameIni, "PurgeCacheDays=14"));
     EXPECT_TRUE(holds(userIni, "HasBeatenGame=True"));

@@ -43,7 +43,7 @@ std::ptrdiff_t countOf(const std::vector<std::string>& lines, const std::string&
     return std::count(lines.begin(), lines.end(), line);
 }
 
-/// The lines from a header to the next blank line, first section of that name.
+// The lines from a header to the next blank line, first section of that name.
 std::vector<std::string> section(const std::string& text, const std::string& header,
                                  std::size_t from = 0) {
     const std::size_t start = text.find(header + "\r\n", from);
@@ -112,9 +112,8 @@ TEST(SampleIni, FavouritesHoldADoubledNameABlankOneAndOneWithExtraFields) {
 
 TEST(SampleIni, NumberedLinesCountUpWithoutAGap) {
     const Ini ini = read(unrealTournamentIni());
-    for (int number = 0; number < 255; ++number) {
+    for (int number = 0; number < 255; ++number)
         EXPECT_EQ(ini.keys.count("IPPolicies[" + std::to_string(number) + "]"), 1U) << number;
-    }
     EXPECT_EQ(ini.keys.count("IPPolicies[255]"), 0U);
 }
 

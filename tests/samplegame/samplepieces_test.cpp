@@ -12,9 +12,7 @@ namespace {
 
 TEST(SampleRng, NumbersAreThoseOfTheStandardEngine) {
     Rng rng(5489);
-    for (int i = 0; i < 9'999; ++i) {
-        rng.next();
-    }
+    for (int i = 0; i < 9'999; ++i) rng.next();
     EXPECT_EQ(rng.next(), 4'123'659'995U);  // what the C++ standard says of mt19937
 }
 
@@ -28,9 +26,8 @@ TEST(SampleRng, NumbersStayInTheirRange) {
 
 TEST(SampleRng, FillerIsAsLongAsAskedEvenBeyondItsBlock) {
     Rng rng(7);
-    for (const std::size_t size : {0U, 1U, 1'000U, 3'000'000U}) {
+    for (const std::size_t size : {0U, 1U, 1'000U, 3'000'000U})
         EXPECT_EQ(rng.filler(size).size(), size);
-    }
 }
 
 TEST(SampleRng, FillerDiffersFromCallToCall) {
@@ -95,9 +92,7 @@ TEST(SampleBmp, LastRowOfTheFileIsOneColourOfSky) {
     Rng rng(7);
     const std::string bytes = screenshotBmp(64, 48, rng);
     const std::string row = bytes.substr(bytes.size() - 192);
-    for (std::size_t x = 0; x < 64; ++x) {
-        EXPECT_EQ(row.substr(3 * x, 3), row.substr(0, 3)) << x;
-    }
+    for (std::size_t x = 0; x < 64; ++x) EXPECT_EQ(row.substr(3 * x, 3), row.substr(0, 3)) << x;
     EXPECT_NE(bytes.substr(54, 192), row);
 }
 

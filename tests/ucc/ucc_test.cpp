@@ -113,9 +113,8 @@ TEST_F(UccTest, ConsoleTellsWhatIsDone) {
     const std::string compressing = printed("compress \"C:\\Maps\\DM-A b][.unr\"");
     for (const char* line :
          {"Executing Class IpDrv.CompressCommandlet\n", "Compressing DM-A b][.unr (5003 bytes)\n",
-          "Compressed DM-A b][.unr -> DM-A b][.unr.uz ("}) {
+          "Compressed DM-A b][.unr -> DM-A b][.unr.uz ("})
         EXPECT_NE(compressing.find(line), std::string::npos) << compressing;
-    }
     const std::string decompressing = printed("decompress \"C:\\Maps\\DM-A b][.unr.uz\"");
     EXPECT_NE(decompressing.find("Decompressed DM-A b][.unr.uz -> DM-A b][.unr\n"),
               std::string::npos);
@@ -149,9 +148,7 @@ TEST_F(UccTest, SlowOneWaitsToBeReleased) {
     const test::Environment release("TESSARO_UCC_RELEASE", world.at("release"));
     int calls = 0;
     whileRunning = [&] {
-        if (++calls < 3) {
-            EXPECT_EQ(world.names("Maps").size(), 1U);
-        }
+        if (++calls < 3) EXPECT_EQ(world.names("Maps").size(), 1U);
         if (calls == 3) world.write("release", "");
     };
     compress(map);

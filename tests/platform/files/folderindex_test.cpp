@@ -35,9 +35,8 @@ TEST(FolderIndex, AMissCostsOneLookAtTheFolder) {
     world.write("C:\\Cache\\a.uxx", "");
     StampedHost host(world.host);
     FolderIndex index(host);
-    for (int i = 0; i < 100; ++i) {
+    for (int i = 0; i < 100; ++i)
         EXPECT_FALSE(index.find(world.at("C:\\Cache"), std::to_string(i)).name);
-    }
     EXPECT_EQ(host.count(Call::Status), 100);
     EXPECT_EQ(host.count(Call::List), 1);
 }
@@ -141,9 +140,7 @@ TEST(FolderIndex, AFolderThatCouldNotBeListedForAMomentKnowsAllNamesAfterwards) 
 
 TEST(FolderIndex, OfSeveralFoldsTheFirstInByteOrderIsTaken) {
     TestWorld world;
-    for (const char* name : {"abC", "aBc", "Abc"}) {
-        world.write(std::string("C:\\x\\") + name, "");
-    }
+    for (const char* name : {"abC", "aBc", "Abc"}) world.write(std::string("C:\\x\\") + name, "");
     FolderIndex index(world.host);
     EXPECT_EQ(index.find(world.at("C:\\x"), "ABC").name, "Abc");
     EXPECT_EQ(index.find(world.at("C:\\x"), "aBc").name, "aBc");

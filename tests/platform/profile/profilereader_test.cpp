@@ -16,9 +16,8 @@ using Found = std::optional<std::string>;
 
 TEST(ProfileReader, ALineEndsAtAnyMixOfLineEnds) {
     const std::string file = "[S]\ra=1\nb=2\r\nc=3\r\r\nd=4\n\ne=5";
-    for (const auto& [key, value] : {std::pair{"a", "1"}, {"b", "2"}, {"c", "3"}, {"d", "4"}}) {
+    for (const auto& [key, value] : {std::pair{"a", "1"}, {"b", "2"}, {"c", "3"}, {"d", "4"}})
         EXPECT_EQ(profileValue(file, "S", key), value);
-    }
     EXPECT_EQ(profileValue(file, "S", "e"), "5");
 }
 
@@ -214,9 +213,7 @@ TEST(DamagedProfile, AHugeLineIsOneLine) {
 
 TEST(DamagedProfile, BinaryRubbishIsSearchedToItsEnd) {
     std::string rubbish;
-    for (int i = 0; i < 70000; ++i) {
-        rubbish += static_cast<char>(i * 7919 >> 3);
-    }
+    for (int i = 0; i < 70000; ++i) rubbish += static_cast<char>(i * 7919 >> 3);
     EXPECT_EQ(profileValue(rubbish + "\n[Tail]\nk=v\n", "Tail", "k"), "v");
     EXPECT_EQ(profileValue(rubbish, "no such", "k"), Found());
 }
