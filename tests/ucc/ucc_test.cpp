@@ -148,7 +148,9 @@ TEST_F(UccTest, SlowOneWaitsToBeReleased) {
     const test::Environment release("TESSARO_UCC_RELEASE", world.at("release"));
     int calls = 0;
     whileRunning = [&] {
-        if (++calls < 3) EXPECT_EQ(world.names("Maps").size(), 1U);
+        if (++calls < 3) {
+            EXPECT_EQ(world.names("Maps").size(), 1U);
+        }
         if (calls == 3) world.write("release", "");
     };
     compress(map);
