@@ -25,6 +25,8 @@ bool firstPaint();
 /// A large file in the editor, loaded, typed into, saved and searched, against Qt's text box and
 /// search and the system's own write.
 bool editor();
+/// What each form leaves on the heap when it is opened and closed.
+bool openings();
 /// The screenshot viewer's opening on many shots, against listing the folder and reading one
 /// picture with Qt; and its step to another picture, against reading and painting that with Qt.
 bool screenshots();

@@ -13,7 +13,7 @@ int main() {
         bool kept = true;
         for (const auto figure :
              {extractMissingFiles, extractPresentFiles, profileFile, importFavorites, serverList,
-              playerList, firstPaint, editor, screenshots, compressBatch})
+              playerList, firstPaint, editor, screenshots, openings, compressBatch})
             kept = figure() && kept;
         return kept ? 0 : 1;
     } catch (const std::exception& error) {

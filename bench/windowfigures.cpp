@@ -14,6 +14,8 @@ struct Line {
     double mark;
 };
 
+constexpr double bytesPerOpening = 1024;
+
 constexpr Line editorLines[] = {{"editor, load of 10 MB", 1.30},
                                 {"editor, load of 10 MB in long lines", 1.30},
                                 {"editor, a new line in the middle of 10 MB", 1.30},
@@ -42,6 +44,20 @@ bool reportToldBy(const char* name, const Line (&lines)[count]) {
 
 bool editor() {
     return reportToldBy("tessaro-bench-editor", editorLines);
+}
+
+bool openings() {
+    const HostPath program = executablePath().parent_path() / "tessaro-bench-openings";
+    std::istringstream told(outputOf({program.string()}));
+    std::string form;
+    double bytes = 0;
+    bool kept = true;
+    while (told >> form >> bytes)
+        kept = report("heap that an opening leaves, " + form, {bytes, bytesPerOpening}, "bytes",
+                      1.00) &&
+               kept;
+    if (form.empty()) throw std::runtime_error(program.string() + " told of no form");
+    return kept;
 }
 
 bool screenshots() {
