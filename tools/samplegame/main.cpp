@@ -10,6 +10,7 @@
 #include "platform/files/files.h"
 #include "platform/files/filetable.h"
 #include "platform/files/paths.h"
+#include "platform/outside/arguments.h"
 #include "platform/profile/profilecalls.h"
 #include "tools/samplegame/players.h"
 #include "tools/samplegame/samplegame.h"
@@ -40,15 +41,16 @@ void pointSettingsAt(const HostPath& game, const HostPath& settings) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
+    const auto arguments = programArguments(argc, argv);
+    if (arguments.size() != 3) {
         std::fputs("Usage: tessaro-sample FOLDER SETTINGS\n", stderr);
         return 2;
     }
     try {
-        const HostPath game = std::filesystem::absolute(argv[1]);
+        const HostPath game = std::filesystem::absolute(arguments[1]);
         tessaro::sample::buildSampleGame(game);
         tessaro::ucc::installPrograms(game, tessaro::executablePath().parent_path());
-        const HostPath settings = std::filesystem::absolute(argv[2]);
+        const HostPath settings = std::filesystem::absolute(arguments[2]);
         pointSettingsAt(game, settings);
         tessaro::sample::writePlayers(settings.parent_path());
     } catch (const std::exception& error) {
