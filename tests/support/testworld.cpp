@@ -7,6 +7,8 @@
 #include <random>
 #include <stdexcept>
 
+#include "support/disk.h"
+
 namespace tessaro::test {
 
 namespace fs = std::filesystem;
@@ -44,10 +46,12 @@ TestWorld::TestWorld()
 DriveMap TestWorld::makePrefix(const HostPath& prefix) {
     fs::create_directories(prefix / "drive_c");
     fs::create_directories(prefix / "dosdevices");
-    fs::create_directory_symlink("../drive_c", prefix / "dosdevices" / "c:");
-    fs::create_directory_symlink("/", prefix / "dosdevices" / "z:");
+    if (hasLinks()) {
+        fs::create_directory_symlink("../drive_c", prefix / "dosdevices" / "c:");
+        fs::create_directory_symlink("/", prefix / "dosdevices" / "z:");
+    }
     fs::current_path(prefix / "drive_c");
-    return {{'C', prefix / "drive_c"}, {'Z', "/"}};
+    return {{'C', prefix / "drive_c"}, {'Z', prefix.root_path()}};
 }
 
 HostPath TestWorld::at(std::string_view gamePath) const {
