@@ -7,6 +7,7 @@
 #include <random>
 #include <stdexcept>
 
+#include "platform/files/hostpath.h"
 #include "support/disk.h"
 
 namespace tessaro::test {
@@ -58,7 +59,7 @@ HostPath TestWorld::at(std::string_view gamePath) const {
     std::string tail(gamePath.substr(gamePath.find(':') + 1));
     std::replace(tail.begin(), tail.end(), '\\', '/');
     tail.erase(0, tail.find_first_not_of('/'));
-    return tail.empty() ? driveC() : driveC() / tail;
+    return tail.empty() ? driveC() : (driveC() / hostPath(tail)).make_preferred();
 }
 
 void TestWorld::writeHost(const HostPath& file, std::string_view bytes) {

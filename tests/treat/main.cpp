@@ -7,6 +7,7 @@
 
 #include "cache/extraction.h"
 #include "core/iniCalls.h"
+#include "platform/files/hostpath.h"
 #include "platform/outside/arguments.h"
 #include "players/archivefixture.h"
 #include "prefs/recordingview.h"
@@ -121,7 +122,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        Treatment(arguments[1]).run();
+        Treatment(hostPath(arguments[1])).run();
     } catch (const std::exception& error) {
         std::fprintf(stderr, "The treatment ended early: %s\n", error.what());
         return 1;

@@ -9,6 +9,7 @@
 #include "platform/files/drives.h"
 #include "platform/files/files.h"
 #include "platform/files/filetable.h"
+#include "platform/files/hostpath.h"
 #include "platform/files/paths.h"
 #include "platform/outside/arguments.h"
 #include "platform/profile/profilecalls.h"
@@ -47,10 +48,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        const HostPath game = std::filesystem::absolute(arguments[1]);
+        const HostPath game = std::filesystem::absolute(hostPath(arguments[1]));
         tessaro::sample::buildSampleGame(game);
         tessaro::ucc::installPrograms(game, tessaro::executablePath().parent_path());
-        const HostPath settings = std::filesystem::absolute(arguments[2]);
+        const HostPath settings = std::filesystem::absolute(hostPath(arguments[2]));
         pointSettingsAt(game, settings);
         tessaro::sample::writePlayers(settings.parent_path());
     } catch (const std::exception& error) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/files/host.h"
+#include "platform/files/hostpath.h"
 #include "platform/outside/arguments.h"
 #include "tools/ucc/commandlets.h"
 
@@ -20,7 +21,7 @@ int main(int argc, char** argv) {
     try {
         const ucc::Commandlets commandlets(executablePath().parent_path(),
                                            ucc::mannerFromEnvironment());
-        const HostPath file = arguments[2];
+        const HostPath file = hostPath(arguments[2]);
         job == "compress" ? commandlets.compress(file) : commandlets.decompress(file);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "ucc: %s\n", error.what());

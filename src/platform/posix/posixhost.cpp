@@ -7,6 +7,7 @@
 #include <csignal>
 
 #include "platform/files/host.h"
+#include "platform/files/hostpath.h"
 #include "platform/files/patience.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/filewatch.h"
@@ -255,6 +256,10 @@ std::unique_ptr<Host> makeHost() {
     // A limit on the size of files then shows as a failed write, as a full disk does.
     std::signal(SIGXFSZ, SIG_IGN);
     return std::make_unique<PosixHost>();
+}
+
+HostPath hostPath(std::string_view text) {
+    return HostPath(text);
 }
 
 HostPath executablePath() {

@@ -78,10 +78,16 @@ void raiseLastError(const HostPath& path) {
                    path.string());
 }
 
+bool canBeName(const HostPath& path) {
+    const std::wstring& name = path.native();
+    const std::size_t drive = name.starts_with(longMark) ? longMark.size() : 0;
+    return name.find(L'\0') == std::wstring::npos &&
+           name.find(L':', drive + 2) == std::wstring::npos;
+}
+
 std::wstring systemName(const HostPath& path) {
     const std::wstring& name = path.native();
-    if (name.find(L'\0') != std::wstring::npos)
-        throw RunTimeError(errors::BadFileNumber, path.string());
+    if (!canBeName(path)) throw RunTimeError(errors::BadFileNumber, path.string());
     if (name.size() < shortEnough || !path.is_absolute() || name.starts_with(longMark)) return name;
     // The system takes such a name as it stands: without dots, divided by backslashes.
     std::wstring whole = path.lexically_normal().native();

@@ -14,8 +14,11 @@ namespace tessaro {
 /// Raises what `GetLastError` says.
 [[noreturn]] void raiseLastError(const HostPath& path);
 
-/// A path as the system's calls take it, of any length. Raises 52 for one with a NUL in it: they
-/// would read it only up to there, and mean another file.
+/// Whether a file could bear this name. The system would read one with a NUL in it only up to
+/// there, and take what stands behind a second colon for a stream beside a file's contents.
+bool canBeName(const HostPath& path);
+
+/// A path as the system's calls take it, of any length. Raises 52 for one that no file can bear.
 std::wstring systemName(const HostPath& path);
 
 /// Others may do with a file of ours what they like: the game reads, and renames, while we do.

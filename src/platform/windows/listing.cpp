@@ -15,8 +15,8 @@ constexpr DWORD notPlain = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN |
 
 class Search {
   public:
-    explicit Search(const HostPath& folder)
-        : handle_(::FindFirstFileExW(systemName(folder / L"*").c_str(), FindExInfoBasic, &found_,
+    explicit Search(const HostPath& pattern)
+        : handle_(::FindFirstFileExW(systemName(pattern).c_str(), FindExInfoBasic, &found_,
                                      FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH)) {}
     Search(const Search&) = delete;
     Search& operator=(const Search&) = delete;
@@ -44,7 +44,7 @@ void take(const WIN32_FIND_DATAW& found, std::vector<ListedName>& names) {
 
 std::vector<ListedName> namesIn(const HostPath& folder) {
     std::vector<ListedName> names;
-    Search search(folder);
+    Search search(folder / L"*");
     if (!search.any()) {
         // So an empty root answers, which has not even dots.
         if (::GetLastError() == ERROR_FILE_NOT_FOUND) return names;
@@ -55,6 +55,12 @@ std::vector<ListedName> namesIn(const HostPath& folder) {
     } while (search.next());
     if (::GetLastError() != ERROR_NO_MORE_FILES) raiseLastError(folder);
     return names;
+}
+
+std::optional<WIN32_FIND_DATAW> listedName(const HostPath& path) {
+    if (path.native().find_first_of(L"*?<>\"") != std::wstring::npos) return std::nullopt;
+    const Search search(path);
+    return search.any() ? std::optional(search.found()) : std::nullopt;
 }
 
 }  // namespace tessaro

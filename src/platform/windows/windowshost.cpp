@@ -3,11 +3,13 @@
 #include <vector>
 
 #include "platform/files/host.h"
+#include "platform/files/hostpath.h"
 #include "platform/files/patience.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/windows/foldertime.h"
 #include "platform/windows/handle.h"
 #include "platform/windows/listing.h"
+#include "platform/windows/widetext.h"
 #include "platform/windows/windowswriter.h"
 
 namespace tessaro {
@@ -41,19 +43,30 @@ bool namesNothing(DWORD error) {
     }
 }
 
+HostStatus statusFrom(DWORD attributes) {
+    HostStatus status;
+    status.folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    // A folder's mark tells the desktop that it has a picture of its own, and nothing else.
+    status.readOnly = !status.folder && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    status.hidden = (attributes & FILE_ATTRIBUTE_HIDDEN) != 0;
+    status.system = (attributes & FILE_ATTRIBUTE_SYSTEM) != 0;
+    return status;
+}
+
 HostStatus statusFrom(const Handle& opened) {
     const BY_HANDLE_FILE_INFORMATION info = opened.information();
-    HostStatus status;
-    status.folder = (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    // A folder's mark tells the desktop that it has a picture of its own, and nothing else.
-    status.readOnly = !status.folder && (info.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
-    status.hidden = (info.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
-    status.system = (info.dwFileAttributes & FILE_ATTRIBUTE_SYSTEM) != 0;
+    HostStatus status = statusFrom(info.dwFileAttributes);
     if (!status.folder) status.size = wide(info.nFileSizeHigh, info.nFileSizeLow);
     status.names = info.nNumberOfLinks;
     status.stamp = {info.dwVolumeSerialNumber, wide(info.nFileIndexHigh, info.nFileIndexLow),
                     status.folder ? folderTime(opened.get(), info.ftLastWriteTime)
                                   : nanoseconds(info.ftLastWriteTime)};
+    return status;
+}
+
+HostStatus statusFrom(const WIN32_FIND_DATAW& listed) {
+    HostStatus status = statusFrom(listed.dwFileAttributes);
+    if (!status.folder) status.size = wide(listed.nFileSizeHigh, listed.nFileSizeLow);
     return status;
 }
 
@@ -104,12 +117,16 @@ bool isBeingWritten(const HostPath& file) {
 class WindowsHost : public Host {
   public:
     std::optional<HostStatus> status(const HostPath& path) override {
-        if (path.native().find(L'\0') != std::wstring::npos) return std::nullopt;  // no such name
+        if (!canBeName(path)) return std::nullopt;
         const Handle opened(::CreateFileW(systemName(path).c_str(), FILE_READ_ATTRIBUTES,
                                           sharedWithAll, nullptr, OPEN_EXISTING, anyName, nullptr));
         if (opened) return opened.onDisk() ? std::optional(statusFrom(opened)) : std::nullopt;
-        if (!namesNothing(::GetLastError())) raiseLastError(path);
-        return std::nullopt;
+        const DWORD error = ::GetLastError();
+        if (namesNothing(error)) return std::nullopt;
+        // A file that the system keeps to itself may still be seen in its folder.
+        if (const auto listed = listedName(path)) return statusFrom(*listed);
+        ::SetLastError(error);
+        raiseLastError(path);
     }
 
     std::vector<std::string> list(const HostPath& folder) override {
@@ -220,6 +237,10 @@ std::unique_ptr<Host> makeHost() {
     // A drive without a disk is an error to be told, and no box of the system's.
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     return std::make_unique<WindowsHost>();
+}
+
+HostPath hostPath(std::string_view text) {
+    return HostPath(toWide(text));
 }
 
 HostPath executablePath() {
