@@ -166,6 +166,7 @@ TEST_F(Archive, AGamesFileThatIsReadOnlyOrAFolderIsRefusedBeforeAnythingIsWritte
     fs::permissions(disk.at(userIni), fs::perms(0444));
     EXPECT_EQ(archivingError(), errors::PathFileAccess);
     program.table.close(2);
+    fs::permissions(disk.at(userIni), fs::perms(0644));
     fs::remove(disk.at(userIni));
     disk.makeFolder(userIni);
     EXPECT_EQ(archivingError(), errors::PathFileAccess);

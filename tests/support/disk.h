@@ -9,6 +9,8 @@ namespace tessaro::test {
 inline constexpr const char* noLinks = "links cannot be made here";
 inline constexpr const char* noPermissions = "files are not kept from some of their users here";
 inline constexpr const char* noDevices = "devices have no names among the files here";
+inline constexpr const char* noCases = "names that differ in case only are one name here";
+inline constexpr const char* noOddNames = "no file can bear such a name here";
 
 /// Whether links can be made: not on every system, nor by everybody.
 inline bool hasLinks() {
@@ -33,6 +35,16 @@ inline bool hasPermissions(const std::filesystem::path& file) {
     const bool kept = fs::status(file).permissions() == fs::perms(0640);
     fs::permissions(file, before);
     return kept;
+}
+
+/// Whether names that differ in case only are names of two files.
+inline bool hasCases() {
+    return std::filesystem::path::preferred_separator == '/';
+}
+
+/// Whether a file may have any name but one with the separator in it: asterisks, stray bytes.
+inline bool hasOddNames() {
+    return std::filesystem::path::preferred_separator == '/';
 }
 
 }  // namespace tessaro::test
