@@ -130,7 +130,7 @@ std::vector<std::string> FolderList::foldersInside() const {
         const HostPath place = files_->paths().toHost(path_);
         for (const std::string& name : files_->list(joined(path_, "*.*"), attributes::Directory)) {
             if (name == "." || name == "..") continue;
-            const auto status = files_->host().status(place / hostPath(hostName(name)));
+            const auto status = files_->host().status(inFolder(place, hostName(name)));
             if (status && status->folder) folders.push_back(name);
         }
     });

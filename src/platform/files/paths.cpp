@@ -71,7 +71,7 @@ bool isLonger(const HostPath& root, const HostPath& other) {
 
 std::optional<HostPath> spelledIn(const HostPath& folder, const FolderIndex::Finding& finding) {
     if (!finding.name) return std::nullopt;
-    return folder / hostPath(hostName(*finding.name));
+    return inFolder(folder, hostName(*finding.name));
 }
 
 }  // namespace
@@ -96,7 +96,7 @@ HostPath Paths::toHostFull(std::string_view full) {
     const auto [folder, name] = Split(full);
     // The search that has just failed knows the folder, if there is one.
     const auto known = found_.find(folder);
-    return (known != found_.end() ? known->second : toHostFull(folder)) / hostPath(hostName(name));
+    return inFolder(known != found_.end() ? known->second : toHostFull(folder), hostName(name));
 }
 
 std::optional<HostPath> Paths::findFull(std::string_view full) {

@@ -149,6 +149,16 @@ TEST(WindowsHost, AFileThatIsBeingWrittenDoesNotSettle) {
     EXPECT_TRUE(host->settles(world.at("C:\\s\\a"), std::chrono::milliseconds(0)));
 }
 
+TEST(WindowsHost, ANameWithAColonLeadsToNoOtherDriveAndToNoStream) {
+    TestWorld world;
+    world.write("C:\\s\\a", "x");
+    for (const char* name : {"C:\\s\\Z:b", "C:\\s\\a:b"}) {
+        EXPECT_EQ(world.paths.toHost(name).parent_path(), world.at("C:\\s"));
+        EXPECT_EQ(errorOf([&] { world.files.copyFile("C:\\s\\a", name); }), errors::BadFileNumber);
+    }
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("a"));
+}
+
 TEST(WindowsHost, ADeviceIsNoFile) {
     TestWorld world;
     EXPECT_EQ(errorOf([&] { world.host.read("NUL"); }), errors::PathFileAccess);
