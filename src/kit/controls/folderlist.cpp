@@ -20,7 +20,7 @@ std::string joined(const std::string& folder, const std::string& name) {
     return folder.ends_with('\\') ? folder + name : folder + '\\' + name;
 }
 
-/// "C:\", "Games" and "UT" of `C:\Games\UT`.
+// "C:\", "Games" and "UT" of `C:\Games\UT`.
 std::vector<std::string> partsOf(const std::string& path) {
     std::vector<std::string> parts{path.substr(0, 3)};
     for (std::size_t start = 3; start < path.size();) {
@@ -31,8 +31,8 @@ std::vector<std::string> partsOf(const std::string& path) {
     return parts;
 }
 
-/// The path with its names spelled as they are on the disk. Its drive stays, also where another
-/// drive reaches the same place.
+// The path with its names spelled as they are on the disk. Its drive stays, also where another
+// drive reaches the same place.
 std::string asOnDisk(const std::string& path, HostPath place) {
     std::vector<std::string> parts = partsOf(path);
     for (std::size_t i = parts.size() - 1; i > 0; --i, place = place.parent_path())
@@ -91,7 +91,7 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// A folder that has gone meanwhile, or may not be entered, leaves the list as it is.
+// A folder that has gone meanwhile, or may not be entered, leaves the list as it is.
 void FolderList::openByUser(const QTreeWidgetItem* item) {
     if (item == nullptr) return;
     const std::string path = fromQt(item->data(0, pathRole).toString());
@@ -110,7 +110,7 @@ void FolderList::fill() {
     setCurrentItem(open);
 }
 
-/// The folders from the drive down to the open one; gives the item of the latter.
+// The folders from the drive down to the open one; gives the item of the latter.
 QTreeWidgetItem* FolderList::addChain() {
     const QIcon icon = style()->standardIcon(QStyle::SP_DirOpenIcon);
     QTreeWidgetItem* last = invisibleRootItem();

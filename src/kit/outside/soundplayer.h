@@ -6,8 +6,8 @@
 namespace tessaro {
 
 /// What the system plays sounds with: on Windows its own call, so that no library comes along for
-/// it, elsewhere Qt Multimedia. Nothing may wait for a sound's end, which never comes where there is
-/// no device.
+/// it, elsewhere Qt Multimedia. Nothing may wait for a sound's end, which never comes where there
+/// is no device.
 class SoundPlayer {
   public:
     SoundPlayer();

@@ -13,9 +13,8 @@ namespace {
 namespace fs = std::filesystem;
 
 HostPath home() {
-    if (const char* fromEnvironment = std::getenv("HOME"); fromEnvironment && *fromEnvironment) {
+    if (const char* fromEnvironment = std::getenv("HOME"); fromEnvironment && *fromEnvironment)
         return fromEnvironment;
-    }
     const passwd* user = ::getpwuid(::getuid());
     return user && user->pw_dir ? user->pw_dir : "/";
 }

@@ -18,9 +18,8 @@ bool isOnAnotherMachine(HANDLE folder) {
 bool keepsTimes(HANDLE folder) {
     wchar_t name[MAX_PATH + 1] = {};
     if (!::GetVolumeInformationByHandleW(folder, nullptr, 0, nullptr, nullptr, nullptr, name,
-                                         static_cast<DWORD>(std::size(name)))) {
+                                         static_cast<DWORD>(std::size(name))))
         return false;
-    }
     const std::wstring_view system = name;
     return (system == L"NTFS" || system == L"ReFS") && !isOnAnotherMachine(folder);
 }

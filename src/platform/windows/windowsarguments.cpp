@@ -16,9 +16,8 @@ std::vector<std::string> programArguments(int /*argc*/, char** /*argv*/) {
     const std::unique_ptr<LPWSTR, HLOCAL (*)(HLOCAL)> all(
         ::CommandLineToArgvW(::GetCommandLineW(), &count), ::LocalFree);
     std::vector<std::string> arguments;
-    for (int i = 0; all && i < count; ++i) {
+    for (int i = 0; all && i < count; ++i)
         arguments.push_back(fromWide(all.get()[i]).value_or(std::string()));
-    }
     return arguments;
 }
 

@@ -206,9 +206,8 @@ class WindowsHost : public Host {
     HostPath target(const HostPath& path) override {
         const DWORD attributes = ::GetFileAttributesW(systemName(path).c_str());
         if (attributes == INVALID_FILE_ATTRIBUTES ||
-            (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
+            (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
             return path;
-        }
         const Handle opened(path, {.flags = anyName});
         std::wstring name(longestPath, L'\0');
         const DWORD size = ::GetFinalPathNameByHandleW(

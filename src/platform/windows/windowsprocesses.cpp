@@ -30,9 +30,8 @@ Handle start(const std::string& commandLine, Visibility visibility) {
     STARTUPINFOW startup = startupFor(visibility);
     PROCESS_INFORMATION child = {};
     if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, NORMAL_PRIORITY_CLASS,
-                          nullptr, nullptr, &startup, &child)) {
+                          nullptr, nullptr, &startup, &child))
         return Handle(nullptr);
-    }
     ::CloseHandle(child.hThread);
     return Handle(child.hProcess);
 }

@@ -20,9 +20,8 @@ class WindowsWriter : public HostWriter {
     void copy(const HostPath& from) override {
         Handle source = openRegular(from);
         std::vector<char> buffer(copiedAtOnce);
-        while (const std::size_t got = source.read(buffer.data(), buffer.size())) {
+        while (const std::size_t got = source.read(buffer.data(), buffer.size()))
             file_.write({buffer.data(), got});
-        }
     }
 
   protected:

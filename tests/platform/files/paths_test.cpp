@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 using test::errorOf;
 using test::TestWorld;
 
-/// A folder that is there, in the root: the first on the way to where we are.
+// A folder that is there, in the root: the first on the way to where we are.
 std::string folderOnZ() {
     return "Z:\\" + fs::current_path().relative_path().begin()->string();
 }

@@ -24,7 +24,7 @@ using namespace std::string_literals;
 using test::TestWorld;
 using Text = std::optional<std::string>;
 
-/// One call on one file.
+// One call on one file.
 struct Call {
     std::string bytes;
     Text section;
@@ -35,7 +35,7 @@ struct Call {
     std::string defaultText() const { return text.value_or(std::string()); }
 };
 
-/// What came of it: the answer, and the file's bytes.
+// What came of it: the answer, and the file's bytes.
 struct Outcome {
     std::string answer;
     std::string bytes;
@@ -73,8 +73,8 @@ std::string unquoted(const std::string& text) {
     return quoted ? text.substr(1, text.size() - 2) : text;
 }
 
-/// The lines of a file without blanks at their ends and round the first "=", and without the empty
-/// ones; those of a section in the order of their texts.
+// The lines of a file without blanks at their ends and round the first "=", and without the empty
+// ones; those of a section in the order of their texts.
 std::vector<std::string> meaningOf(const std::string& bytes) {
     std::vector<std::string> lines;
     auto section = lines.size();

@@ -21,7 +21,7 @@ using testing::ElementsAre;
 
 constexpr const char* umlauts = "H\xC3\xB6hle \xD0\xB6 \xE6\x97\xA5";
 
-/// A file that another program has open, as its last argument lets others use it meanwhile.
+// A file that another program has open, as its last argument lets others use it meanwhile.
 Handle openedBy(const HostPath& file, DWORD access, DWORD share) {
     return Handle(file, {.access = access, .share = share});
 }

@@ -11,7 +11,7 @@ namespace {
 using test::TestWorld;
 using testing::ElementsAre;
 
-/// The stand-ins for the game's programs, started as the system starts them.
+// The stand-ins for the game's programs, started as the system starts them.
 class WindowsProcesses : public testing::Test {
   protected:
     WindowsProcesses() {
