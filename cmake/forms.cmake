@@ -1,12 +1,19 @@
 # The forms library: all of the project that knows Qt.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Multimedia)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+# What sounds are played with.
+if(WIN32)
+    set(player winmm)
+else()
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Multimedia)
+    set(player Qt6::Multimedia)
+endif()
 
 add_library(tessaro_forms STATIC)
 # The first format of resources holds no dates, so that each build gives the same bytes.
 set_target_properties(tessaro_forms PROPERTIES AUTOMOC ON AUTORCC ON
     AUTORCC_OPTIONS "--format-version;1")
 target_sources(tessaro_forms PRIVATE ${CMAKE_SOURCE_DIR}/resources/tessaro.qrc)
-target_link_libraries(tessaro_forms PUBLIC tessaro_logic Qt6::Widgets PRIVATE Qt6::Multimedia)
+target_link_libraries(tessaro_forms PUBLIC tessaro_logic Qt6::Widgets PRIVATE ${player})
 target_compile_definitions(tessaro_forms PUBLIC
     QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 tessaro_sanitize(tessaro_forms)

@@ -6,21 +6,25 @@
 #include <string>
 
 #include "platform/files/host.h"
+#include "platform/files/hostpath.h"
+#include "platform/outside/arguments.h"
 #include "tools/samplegame/players.h"
 #include "tools/samplegame/samplegame.h"
 #include "tools/samplegame/settings.h"
 #include "tools/ucc/programs.h"
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
+    const auto arguments = programArguments(argc, argv);
+    if (arguments.size() != 3) {
         std::fputs("Usage: tessaro-sample FOLDER SETTINGS\n", stderr);
         return 2;
     }
     try {
-        const tessaro::HostPath game = std::filesystem::absolute(argv[1]);
+        const tessaro::HostPath game = std::filesystem::absolute(tessaro::hostPath(arguments[1]));
         tessaro::sample::buildSampleGame(game);
         tessaro::ucc::installPrograms(game, tessaro::executablePath().parent_path());
-        const tessaro::HostPath settings = std::filesystem::absolute(argv[2]);
+        const tessaro::HostPath settings =
+            std::filesystem::absolute(tessaro::hostPath(arguments[2]));
         tessaro::sample::pointSettingsAt(game, settings);
         tessaro::sample::writePlayers(settings.parent_path());
     } catch (const std::exception& error) {

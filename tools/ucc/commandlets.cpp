@@ -8,6 +8,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/files/hostpath.h"
+
 namespace tessaro::ucc {
 
 namespace {
@@ -61,7 +63,7 @@ void Commandlets::decompress(const fs::path& file) const {
     const fs::path source = systemFolder_ / file;
     const Package package = decompressed(read(source));
     // A stored name that leads to another folder is not followed.
-    const fs::path target = outputName(systemFolder_ / fs::path(package.name).filename(), manner_);
+    const fs::path target = outputName(systemFolder_ / hostPath(package.name).filename(), manner_);
     write(target, package.bytes);
     console_.print("Decompressed " + source.filename().string() + " -> " +
                    target.filename().string());

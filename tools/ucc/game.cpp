@@ -5,11 +5,13 @@
 #include <fstream>
 
 #include "platform/files/host.h"
+#include "platform/outside/arguments.h"
 
 int main(int argc, char** argv) {
     try {
-        std::ofstream note(tessaro::executablePath().parent_path() / "UnrealTournament.cmdline");
-        for (int i = 0; i < argc; ++i) note << argv[i] << '\n';
+        std::ofstream note(tessaro::executablePath().parent_path() / "UnrealTournament.cmdline",
+                           std::ios::binary);
+        for (const std::string& each : tessaro::programArguments(argc, argv)) note << each << '\n';
         note.close();
         return note ? 0 : 1;
     } catch (const std::exception&) {

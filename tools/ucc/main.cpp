@@ -3,22 +3,26 @@
 
 #include <cstdio>
 #include <exception>
-#include <string_view>
+#include <string>
 
 #include "platform/files/host.h"
+#include "platform/files/hostpath.h"
+#include "platform/outside/arguments.h"
 #include "tools/ucc/commandlets.h"
 
 int main(int argc, char** argv) {
-    const std::string_view job = argc == 3 ? argv[1] : "";
+    using namespace tessaro;
+    const auto arguments = programArguments(argc, argv);
+    const std::string job = arguments.size() == 3 ? arguments[1] : "";
     if (job != "compress" && job != "decompress") {
         std::fputs("Usage: ucc compress FILE\n       ucc decompress FILE.uz\n", stderr);
         return 2;
     }
     try {
-        using namespace tessaro;
         const ucc::Commandlets commandlets(executablePath().parent_path(),
                                            ucc::mannerFromEnvironment());
-        job == "compress" ? commandlets.compress(argv[2]) : commandlets.decompress(argv[2]);
+        const HostPath file = hostPath(arguments[2]);
+        job == "compress" ? commandlets.compress(file) : commandlets.decompress(file);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "ucc: %s\n", error.what());
         return 1;

@@ -1,14 +1,19 @@
 #include "tools/ucc/programs.h"
 
+#include <string>
+
+#include "platform/files/host.h"
+
 namespace tessaro::ucc {
 
 void installPrograms(const std::filesystem::path& game, const std::filesystem::path& programs) {
     namespace fs = std::filesystem;
     // Copies, since links would make them take the folder of the originals for the game's.
     const fs::path system = game / "System";
-    fs::copy_file(programs / "tessaro-ucc", system / "UCC.exe",
+    const std::string ending = executablePath().extension().string();  // of this system's programs
+    fs::copy_file(programs / ("tessaro-ucc" + ending), system / "UCC.exe",
                   fs::copy_options::overwrite_existing);
-    fs::copy_file(programs / "tessaro-ut", system / "UnrealTournament.exe",
+    fs::copy_file(programs / ("tessaro-ut" + ending), system / "UnrealTournament.exe",
                   fs::copy_options::overwrite_existing);
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "kit/look/text.h"
+#include "platform/files/hostpath.h"
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 
@@ -129,7 +130,7 @@ std::vector<std::string> FolderList::foldersInside() const {
         const HostPath place = files_->paths().toHost(path_);
         for (const std::string& name : files_->list(joined(path_, "*.*"), attributes::Directory)) {
             if (name == "." || name == "..") continue;
-            const auto status = files_->host().status(place / hostName(name));
+            const auto status = files_->host().status(inFolder(place, hostName(name)));
             if (status && status->folder) folders.push_back(name);
         }
     });

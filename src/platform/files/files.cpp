@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files/hostpath.h"
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
@@ -98,7 +99,7 @@ std::vector<std::string> Files::listFolder(std::string_view folder, std::string_
         std::string name = gameName(each.name);
         if (!matchesWildcard(pattern, name)) continue;
         // Plain files are always wanted; to ask for each would take most of a listing's time.
-        if (each.plainFile || isWanted(host_, *path / each.name, attributes))
+        if (each.plainFile || isWanted(host_, inFolder(*path, each.name), attributes))
             names.push_back(std::move(name));
     }
     sortNames(names);
@@ -125,7 +126,7 @@ std::vector<std::string> Files::filesIn(std::string_view folder) {
     for (const ListedName& each : host_.listNames(*path)) {
         constexpr int anyFile = attributes::Hidden | attributes::System;
         if (isUnderWay(each.name)) continue;
-        if (each.plainFile || isWanted(host_, *path / each.name, anyFile))
+        if (each.plainFile || isWanted(host_, inFolder(*path, each.name), anyFile))
             names.push_back(gameName(each.name));
     }
     return names;
@@ -163,13 +164,13 @@ void Files::deleteFiles(std::string_view pattern) {
     if (names.empty()) throw RunTimeError(errors::FileNotFound, std::string(pattern));
     const HostPath folder = paths_.toHost(pattern.substr(0, lastPart(pattern)));
     paths_.forget(folder);
-    for (const std::string& name : names) deleteFile(host_, folder / hostName(name));
+    for (const std::string& name : names) deleteFile(host_, inFolder(folder, hostName(name)));
 }
 
 void Files::deleteWhatGoes(std::string_view pattern) {
     const HostPath folder = paths_.toHost(pattern.substr(0, lastPart(pattern)));
     for (const std::string& name : namesToDelete(pattern))
-        attempt([&] { deleteFile(host_, folder / hostName(name)); });
+        attempt([&] { deleteFile(host_, inFolder(folder, hostName(name))); });
     paths_.forget(folder);
 }
 
