@@ -10,6 +10,7 @@ inline constexpr const char* noLinks = "links cannot be made here";
 inline constexpr const char* noPermissions = "files are not kept from some of their users here";
 inline constexpr const char* noDevices = "devices have no names among the files here";
 inline constexpr const char* noCases = "names that differ in case only are one name here";
+inline constexpr const char* noLostFolder = "a folder that a program is in cannot be deleted here";
 inline constexpr const char* noOddNames = "no file can bear such a name here";
 
 /// Whether links can be made: not on every system, nor by everybody.
@@ -37,14 +38,23 @@ inline bool hasPermissions(const std::filesystem::path& file) {
     return kept;
 }
 
+inline bool onPosix() {
+    return std::filesystem::path::preferred_separator == '/';
+}
+
 /// Whether names that differ in case only are names of two files.
 inline bool hasCases() {
-    return std::filesystem::path::preferred_separator == '/';
+    return onPosix();
 }
 
 /// Whether a file may have any name but one with the separator in it: asterisks, stray bytes.
 inline bool hasOddNames() {
-    return std::filesystem::path::preferred_separator == '/';
+    return onPosix();
+}
+
+/// Whether a folder can be deleted while a program is in it.
+inline bool canLoseFolder() {
+    return onPosix();
 }
 
 }  // namespace tessaro::test
