@@ -14,7 +14,7 @@
 #include "tools/ucc/programs.h"
 
 int main(int argc, char** argv) {
-    const auto arguments = programArguments(argc, argv);
+    const auto arguments = tessaro::programArguments(argc, argv);
     if (arguments.size() != 3) {
         std::fputs("Usage: tessaro-sample FOLDER SETTINGS\n", stderr);
         return 2;
