@@ -7,6 +7,7 @@
 #include "core/centerform.h"
 #include "core/routines.h"
 #include "kit/controls/listview.h"
+#include "kit/controls/option.h"
 #include "kit/forms/handler.h"
 #include "kit/look/text.h"
 #include "platform/runtime/runtimeerror.h"
@@ -47,8 +48,8 @@ void mapext::setupStepOne() {
 
 void mapext::setupStepTwo() {
     setNewFolderVisible(false);
-    on(ui_->Option1, &QRadioButton::clicked, forms(), [this] { setNewFolderVisible(false); });
-    on(ui_->Option2, &QRadioButton::clicked, forms(), [this] { chooseNewFolder(); });
+    onSet(*ui_->Option1, forms(), [this] { setNewFolderVisible(false); });
+    onSet(*ui_->Option2, forms(), [this] { chooseNewFolder(); });
     on(ui_->Command10, &QPushButton::clicked, forms(), [this] { browseDestination(); });
     on(ui_->Command1, &QPushButton::clicked, forms(), [this] { createFolder(); });
     on(ui_->Command6, &QPushButton::clicked, forms(),
