@@ -335,7 +335,7 @@ TEST_F(UsersForm, EverythingCanBeDoneByKeyboard) {
 TEST_F(UsersForm, AScreenReaderIsToldWhatTheBoxesAre) {
     Users& form = openUsers();
     EXPECT_EQ(nameForReaders(control<QLineEdit>(form, "Text1")), QStringLiteral("Current User"));
-    EXPECT_EQ(nameForReaders(listView()), QStringLiteral("Saved Users"));
+    EXPECT_EQ(nameForReaders(listView()), QStringLiteral("Players"));
     EXPECT_EQ(descriptionForReaders(listView()),
               QStringLiteral("This is a listing of your Player Archive"));
 }

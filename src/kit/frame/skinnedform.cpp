@@ -10,6 +10,7 @@
 #include "kit/frame/drag.h"
 #include "kit/frame/picturelabels.h"
 #include "kit/frame/placement.h"
+#include "kit/look/reader.h"
 #include "kit/look/style.h"
 #include "kit/look/text.h"
 
@@ -117,6 +118,7 @@ void SkinnedForm::completeContent() {
         content_->layout()->setContentsMargins(contentMargin, contentMargin, contentMargin,
                                                contentMargin);
     dressFields(*content_);
+    nameForReaders(*content_);
     QWidget* last = lastInTabOrder(content_);
     if (CommandQ != nullptr) {
         setTabOrder(last, CommandQ);
