@@ -147,8 +147,8 @@ void mapext::setNewFolderVisible(bool visible) {
 }
 
 void mapext::browseDestination() {
-    const std::string answer =
-        BrowseForFolder(program_, "Where Do you wish to Extract your Map Files to?");
+    const std::string answer = BrowseForFolder(
+        program_, {"Where Do you wish to Extract your Map Files to?", fromQt(ui_->Text2->text())});
     if (answer.empty()) return;
     ui_->Text2->setText(toQt(answer));
     program_.settings.ExtractDest = answer;

@@ -103,6 +103,7 @@ void Prefs::followFocus(const QWidget* left, const QWidget* entered) {
 void Prefs::Load() {
     PrepareForm(*this);
     rules_.open();
+    ui_->pathHint->setVisible(!okEnabled());
 }
 
 bool Prefs::QueryUnload() {
@@ -177,6 +178,7 @@ bool Prefs::okEnabled() {
 void Prefs::enableSaving() {
     ui_->Command6->setEnabled(true);
     ui_->Command2->setEnabled(true);
+    ui_->pathHint->hide();
 }
 
 void Prefs::applySkin() {

@@ -268,7 +268,9 @@ TEST_F(WizardDestination, BrowsingSetsTheFolderAndCancellingDoesNot) {
     press("Command10");
     world_.dialogs.pick("");
     press("Command10");
-    EXPECT_EQ(world_.dialogs.pickers[0], "Where Do you wish to Extract your Map Files to?");
+    const std::string prompt = "Where Do you wish to Extract your Map Files to?";
+    EXPECT_EQ(world_.dialogs.folderPickers,
+              (std::vector<FolderPicker>{{prompt, "C:\\UnrealTournament"}, {prompt, "C:\\Out"}}));
     EXPECT_EQ(textOf("Text2"), "C:\\Out");
     EXPECT_EQ(program_.settings.ExtractDest, "C:\\Out");
 }

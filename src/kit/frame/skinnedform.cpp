@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "kit/controls/wholetext.h"
 #include "kit/forms/handler.h"
 #include "kit/frame/drag.h"
 #include "kit/frame/picturelabels.h"
@@ -119,6 +120,7 @@ void SkinnedForm::completeContent() {
                                                contentMargin);
     dressFields(*content_);
     nameForReaders(*content_);
+    showWholeTexts(*content_);
     QWidget* last = lastInTabOrder(content_);
     if (CommandQ != nullptr) {
         setTabOrder(last, CommandQ);

@@ -49,7 +49,7 @@ const QColor letters(0, 0, 0);
 const QColor paleLetters(120, 120, 120);
 const QColor fieldGround(64, 64, 64);
 const QColor fieldLetters(255, 255, 255);
-const QColor paleFieldLetters(214, 214, 214);
+const QColor paleFieldLetters(220, 220, 220);
 
 // The sizes that window managers show. Each one more would have to be unpacked and sent to the
 // screen before the first window is there; larger ones are shown by launchers only.
@@ -80,6 +80,15 @@ void setFieldLetters(QWidget& field) {
     if (qobject_cast<QComboBox*>(&field) != nullptr)
         setColours(palette, {{QPalette::ButtonText, fieldLetters, paleFieldLetters}});
     field.setPalette(palette);
+}
+
+/// A box that only shows its text is no field to write in, and does not look like one.
+void flatten(QLineEdit& box) {
+    box.setFrame(false);
+    box.setCursor(Qt::ArrowCursor);
+    QPalette palette = box.palette();
+    setColours(palette, {{QPalette::Text, paleFieldLetters, paleFieldLetters}});
+    box.setPalette(palette);
 }
 
 }  // namespace
@@ -136,6 +145,8 @@ void dressFields(QWidget& form) {
         if (!isField(*widget)) continue;
         setFieldGround(*widget, fieldGround);
         setFieldLetters(*widget);
+        auto* box = qobject_cast<QLineEdit*>(widget);
+        if (box != nullptr && box->isReadOnly()) flatten(*box);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 
 #include "kit/look/text.h"
+#include "kit/outside/folderbox.h"
 #include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
@@ -119,13 +120,11 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
     return accepted ? lineFromQt(box.textValue()) : std::string();
 }
 
-std::string QtDialogs::pickFolder(const std::string& prompt) {
-    QFileDialog box(owner(), toQt(prompt));
-    box.setObjectName(QStringLiteral("folderPicker"));
-    box.setOption(QFileDialog::DontUseNativeDialog);
-    box.setFileMode(QFileDialog::Directory);
-    box.setOption(QFileDialog::ShowDirsOnly);
-    return picked(box);
+std::string QtDialogs::pickFolder(const FolderPicker& picker) {
+    FolderBox box(owner(), files_, picker);
+    const bool accepted = box.exec() == QDialog::Accepted;
+    end_.throwIfEnded();
+    return accepted ? box.folder() : std::string();
 }
 
 std::string QtDialogs::pickFileToOpen(const FilePicker& picker) {

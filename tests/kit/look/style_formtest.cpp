@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 
 namespace tessaro {
 namespace {
@@ -41,6 +42,19 @@ TEST(ProgramStyle, EveryTextStandsOutFromItsGround) {
             EXPECT_GT(std::abs(contrast), 75) << text << " on " << ground << " in " << group;
         }
     }
+}
+
+TEST(DressedFields, ABoxThatCannotBeWrittenInIsFlat) {
+    QWidget form;
+    auto* written = new QLineEdit(&form);
+    auto* shown = new QLineEdit(&form);
+    shown->setReadOnly(true);
+    dressFields(form);
+    EXPECT_TRUE(written->hasFrame());
+    EXPECT_FALSE(shown->hasFrame());
+    EXPECT_EQ(shown->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(written->palette().color(QPalette::Text), QColor(Qt::white));
+    EXPECT_LT(shown->palette().color(QPalette::Text).lightness(), 230);
 }
 
 TEST(FieldGround, IsReallyPaintedOnADropDownList) {
