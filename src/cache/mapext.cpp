@@ -36,6 +36,7 @@ mapext::~mapext() {
 
 void mapext::setupStepOne() {
     ui_->Command4->setMaximumWidth(3 * ui_->Command4->fontMetrics().height());
+    refit(*ui_->Command4);
     ui_->Drive1->use(program_.files);
     ui_->Dir1->use(program_.files);
     on(ui_->Drive1, &DriveList::changed, forms(), [this] { changeDrive(); });
@@ -59,7 +60,6 @@ void mapext::setupStepTwo() {
 
 void mapext::setupStepThree() {
     ui_->ListView1->show(extraction_.ListView1);
-    setColumnWidths(*ui_->ListView1, {0, 16, 12});
     on(ui_->ListView1, &ListView::columnClicked, forms(),
        [this](int column) { extraction_.sortBy(column); });
     on(ui_->Command8, &QPushButton::clicked, forms(), [this] { extract(); });

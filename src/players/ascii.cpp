@@ -24,6 +24,7 @@ ascii::~ascii() = default;
 
 void ascii::setupChart() {
     ui_->Text2->setFixedWidth(2 * ui_->Text2->fontMetrics().height());
+    refit(*ui_->Text2);
     on(ui_->List1, &CharacterList::mousePressed, forms(), [this] { showPicked(); });
     on(ui_->List1, &CharacterList::chosen, forms(), [this] { addPicked(); });
 }

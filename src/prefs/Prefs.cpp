@@ -104,6 +104,7 @@ void Prefs::Load() {
     PrepareForm(*this);
     rules_.open();
     ui_->pathHint->setVisible(!okEnabled());
+    refit(*ui_->pathHint);
 }
 
 bool Prefs::QueryUnload() {

@@ -27,6 +27,14 @@ class ProgramStyle : public QProxyStyle {
         const QString folder = QStringLiteral(":/qt-project.org/styles/commonstyle/images/");
         return QIcon(programPicture(folder + QStringLiteral("toolbar-ext-h-16.png")));
     }
+
+    /// Fusion lets a long caption touch the sides of its button.
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        if (type != CT_PushButton) return size;
+        return size.expandedTo({contents.width() + 2 * option->fontMetrics.height(), 0});
+    }
 };
 
 /// A colour, the same in both states of a window, and the one of disabled controls.

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace tessaro {
 namespace {
@@ -42,6 +43,13 @@ TEST(ProgramStyle, EveryTextStandsOutFromItsGround) {
             EXPECT_GT(std::abs(contrast), 75) << text << " on " << ground << " in " << group;
         }
     }
+}
+
+TEST(ProgramStyle, LeavesACaptionRoomOnItsButton) {
+    const QPushButton button(QStringLiteral("C&lear My UT Cache and Temp Files Now!"));
+    const QFontMetrics letters = button.fontMetrics();
+    const int caption = letters.size(Qt::TextShowMnemonic, button.text()).width();
+    EXPECT_GE(button.sizeHint().width(), caption + 2 * letters.height());
 }
 
 TEST(DressedFields, ABoxThatCannotBeWrittenInIsFlat) {

@@ -10,6 +10,7 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
 #include "kit/outside/folderbox.h"
@@ -72,6 +73,15 @@ TEST_F(RealDialogs, EscIsTheLastResort) {
     EXPECT_EQ(afterKey(Buttons::OkCancel, Qt::Key_Escape), Answer::Cancel);
     EXPECT_EQ(afterKey(Buttons::YesNo, Qt::Key_Escape), Answer::No);
     EXPECT_EQ(afterKey(Buttons::YesNoCancel, Qt::Key_Escape), Answer::Cancel);
+}
+
+TEST_F(RealDialogs, AMessageIsAsWideAsItsTitle) {
+    const std::string title = "Sorry, the destination path does not Exist. Check it, please.";
+    answered({"No.", title, Buttons::Ok, Icon::Stop}, [](QMessageBox& box) {
+        EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance(box.windowTitle()) + 60);
+        EXPECT_LE(box.width(), box.screen()->availableSize().width());
+        box.accept();
+    });
 }
 
 TEST_F(RealDialogs, TheEndOfTheProgramUnwindsTheCallerOfABox) {
