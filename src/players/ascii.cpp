@@ -12,7 +12,8 @@ ascii::ascii(Forms& forms, Program& program)
     : SkinnedForm(forms, {.caption = "ASCII Viewer",
                           .title = "ASCII Viewer",
                           .secondButton = true,
-                          .dragBy = DragBy::Plate}),
+                          .dragBy = DragBy::Plate,
+                          .secondButtonTask = "Help"}),
       ui_(std::make_unique<Ui::asciiContent>()),
       program_(program) {
     setUpContent(*ui_);
@@ -30,9 +31,6 @@ void ascii::setupChart() {
 }
 
 void ascii::setupHelp() {
-    CommandQ->setText(QStringLiteral("?"));
-    CommandQ->setAccessibleName(QStringLiteral("Help"));
-    CommandQ->setToolTip(CommandQ->accessibleName());
     on(CommandQ, &QPushButton::clicked, forms(), [this] { showHelp(); });
 }
 

@@ -87,7 +87,8 @@ void SkinnedForm::makeButtons(const FrameOptions& options) {
     CommandX->setToolTip(CommandX->accessibleName());
     if (!options.secondButton) return;
     if (options.secondButtonTask.empty()) {
-        CommandQ = makeButton(this, "CommandQ", "", "No function");
+        CommandQ = makeButton(this, "CommandQ", "_", "Minimise");
+        CommandQ->setEnabled(false);
     } else {
         CommandQ = makeButton(this, "CommandQ", "?", options.secondButtonTask);
         CommandQ->setToolTip(CommandQ->accessibleName());
@@ -167,6 +168,10 @@ void SkinnedForm::closePressed() {
 
 void SkinnedForm::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // The bar at the foot serves for the band as well, behind plate and buttons.
+    const QPixmap bar = bimg->pixmap(Qt::ReturnByValue);
+    if (!bar.isNull()) painter.drawPixmap(0, 0, width(), border + strut_->height(), bar);
     painter.setPen(palette().color(QPalette::Shadow));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

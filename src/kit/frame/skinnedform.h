@@ -19,7 +19,8 @@ struct FrameOptions {
     std::string title;          ///< text of `Title`
     bool secondButton = false;  ///< `CommandQ`
     DragBy dragBy = DragBy::PlateAndTitle;
-    /// What `CommandQ` is there for, such as "Help"; it bears a "?" then, and is blank without.
+    /// What `CommandQ` is there for, such as "Help"; it bears a "?" then. Without, it is a minimise
+    /// button that cannot be pressed.
     std::string secondButtonTask = {};
 };
 

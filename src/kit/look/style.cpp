@@ -54,7 +54,7 @@ void setColours(QPalette& palette, std::initializer_list<RoleColour> colours) {
 
 const QColor ground(239, 239, 239);
 const QColor letters(0, 0, 0);
-const QColor paleLetters(120, 120, 120);
+const QColor paleLetters(105, 105, 105);
 const QColor fieldGround(64, 64, 64);
 const QColor fieldLetters(255, 255, 255);
 const QColor paleFieldLetters(220, 220, 220);
@@ -115,7 +115,7 @@ QPalette programPalette() {
                          {QPalette::BrightText, white, white},
                          {QPalette::ToolTipBase, QColor(255, 255, 220), QColor(255, 255, 220)},
                          {QPalette::ToolTipText, letters, letters},
-                         {QPalette::Highlight, QColor(48, 100, 170), QColor(145, 145, 145)},
+                         {QPalette::Highlight, QColor(48, 100, 170), QColor(110, 110, 110)},
                          {QPalette::HighlightedText, white, white},
                          {QPalette::Link, QColor(0, 0, 200), paleLetters},
                          {QPalette::LinkVisited, QColor(110, 0, 140), paleLetters},

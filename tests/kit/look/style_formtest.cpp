@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "support/forms/contrast.h"
+
 namespace tessaro {
 namespace {
 
@@ -38,9 +40,9 @@ TEST(ProgramStyle, EveryTextStandsOutFromItsGround) {
         {QPalette::HighlightedText, QPalette::Highlight}};
     for (const auto& [text, ground] : pairs) {
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-            const int contrast =
-                palette.color(group, text).lightness() - palette.color(group, ground).lightness();
-            EXPECT_GT(std::abs(contrast), 75) << text << " on " << ground << " in " << group;
+            EXPECT_GE(test::contrast(palette.color(group, text), palette.color(group, ground)),
+                      test::readable)
+                << text << " on " << ground << " in " << group;
         }
     }
 }
