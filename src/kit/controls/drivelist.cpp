@@ -17,7 +17,7 @@ QString driveText(char letter) {
     return QString(QLatin1Char(letter)).toLower() + QLatin1Char(':');
 }
 
-/// Names the list and the chosen drive, "Drive c:". Qt's own tells the drive alone.
+// Names the list and the chosen drive, "Drive c:". Qt's own tells the drive alone.
 class DriveListReader : public QAccessibleWidget {
   public:
     explicit DriveListReader(DriveList* list)

@@ -30,7 +30,7 @@ void WrappingOption::resizeEvent(QResizeEvent* event) {
     if (std::exchange(wrapped_, tooWide) != tooWide) updateGeometry();
 }
 
-/// Broken at the blank nearest to the middle.
+// Broken at the blank nearest to the middle.
 QString WrappingOption::twoLines() const {
     QString lines = text();
     const qsizetype middle = lines.size() / 2;
@@ -42,7 +42,7 @@ QString WrappingOption::twoLines() const {
     return lines;
 }
 
-/// What the mark takes, and the room around it.
+// What the mark takes, and the room around it.
 int WrappingOption::besideText() const {
     return QRadioButton::sizeHint().width() -
            fontMetrics().size(Qt::TextShowMnemonic, text()).width();

@@ -10,7 +10,7 @@
 namespace tessaro {
 namespace {
 
-/// Left alone, a scroll area would not let anything shrink that can wrap its lines.
+// Left alone, a scroll area would not let anything shrink that can wrap its lines.
 class Content : public QWidget {
   public:
     int heightForWidth(int width) const override {
@@ -57,7 +57,7 @@ QSize ContentArea::room() const {
     return screen()->availableSize() - surroundings_;
 }
 
-/// With a pixel to spare: at a scale of 150 % a desktop may round a window down.
+// With a pixel to spare: at a scale of 150 % a desktop may round a window down.
 QSize ContentArea::fitted(const QSize& wanted) const {
     return scrolledSize(wanted + QSize(1, 1), room(), verticalScrollBar()->sizeHint().width());
 }

@@ -8,7 +8,7 @@
 namespace tessaro {
 namespace {
 
-/// Without a name, and not to be seen.
+// Without a name, and not to be seen.
 class NothingToRead : public QAccessibleWidget {
   public:
     explicit NothingToRead(PictureLabel* picture) : QAccessibleWidget(picture) {}

@@ -142,7 +142,7 @@ void SkinnedForm::refit(QWidget& control) {
     resize(designed_.expandedTo(area_->sizeHint()) + surroundings());
 }
 
-/// What the frame adds to the content.
+// What the frame adds to the content.
 QSize SkinnedForm::surroundings() const {
     return {2 * (border + sideWidth), 2 * border + strut_->minimumHeight() + bottomHeight};
 }

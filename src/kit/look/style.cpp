@@ -28,7 +28,7 @@ class ProgramStyle : public QProxyStyle {
         return QIcon(programPicture(folder + QStringLiteral("toolbar-ext-h-16.png")));
     }
 
-    /// Fusion lets a long caption touch the sides of its button.
+    // Fusion lets a long caption touch the sides of its button.
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override {
         const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
@@ -90,7 +90,7 @@ void setFieldLetters(QWidget& field) {
     field.setPalette(palette);
 }
 
-/// A box that only shows its text is no field to write in, and does not look like one.
+// A box that only shows its text is no field to write in, and does not look like one.
 void flatten(QLineEdit& box) {
     box.setFrame(false);
     box.setCursor(Qt::ArrowCursor);

@@ -69,7 +69,7 @@ void FolderBox::layOut() {
     resize(wanted.expandedTo({captionWidth(*this), 0}).boundedTo(screen()->availableSize()));
 }
 
-/// Where a folder is not there, the nearest one above it that is.
+// Where a folder is not there, the nearest one above it that is.
 void FolderBox::openNear(std::string folder) {
     while (!open(folder)) {
         const std::size_t end = folder.rfind('\\');
@@ -103,7 +103,7 @@ void FolderBox::makeFolder() {
     complain("There is such a folder, or it cannot be made.");
 }
 
-/// A name without a drive means one in the folder that is open.
+// A name without a drive means one in the folder that is open.
 std::string FolderBox::typed() const {
     const std::string text = lineFromQt(path_->text());
     const bool whole = text.find(':') != std::string::npos || text.starts_with('\\');

@@ -71,7 +71,7 @@ Answer answerOf(int button) {
     }
 }
 
-/// Qt's box takes the width of its lines, and fixes that when it is shown.
+// Qt's box takes the width of its lines, and fixes that when it is shown.
 void widenToCaption(QMessageBox& box) {
     auto* lines = static_cast<QGridLayout*>(box.layout());
     lines->addItem(new QSpacerItem(captionWidth(box), 0), lines->rowCount(), 0, 1, -1);
