@@ -106,7 +106,7 @@ void FolderBox::makeFolder() {
 // A name without a drive means one in the folder that is open.
 std::string FolderBox::typed() const {
     const std::string text = lineFromQt(path_->text());
-    const bool whole = text.find(':') != std::string::npos || text.starts_with('\\');
+    const bool whole = text.find(':') != std::string::npos || text.find_first_of("\\/") == 0;
     return whole || text.empty() ? text : list_->path() + '\\' + text;
 }
 

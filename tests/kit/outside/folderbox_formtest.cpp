@@ -110,6 +110,15 @@ TEST_F(FolderBoxes, ANameAloneMeansAFolderInTheOpenOne) {
     EXPECT_EQ(chosen(), "C:\\Games\\Other");
 }
 
+TEST_F(FolderBoxes, APathWithoutADriveStartsAtTheRoot) {
+    for (const char* path : {"\\games\\other", "/games/other"}) {
+        open("C:\\Games");
+        type(path);
+        enter();
+        EXPECT_EQ(chosen(), "C:\\Games\\Other");
+    }
+}
+
 TEST_F(FolderBoxes, AFolderThatIsNotThereIsNotTakenAndTheBoxSaysWhy) {
     for (const char* folder : {"C:\\Gone", "Q:\\"}) {
         open("C:\\Games");
