@@ -15,7 +15,7 @@ class NoDialogs : public Dialogs {
     std::string input(const std::string&, const std::string&, const std::string&) override {
         return {};
     }
-    std::string pickFolder(const std::string&) override { return {}; }
+    std::string pickFolder(const FolderPicker&) override { return {}; }
     std::string pickFileToOpen(const FilePicker&) override { return {}; }
     std::string pickFileToSave(const FilePicker&) override { return {}; }
 };
