@@ -88,9 +88,8 @@ std::string clsINI::getVersion(std::string_view INIFileLoc) {
 
 std::string clsINI::getSections(std::string_view INIFileLoc) {
     const std::string_view file = fileOr(INIFileLoc);
-    ensureIniFile();
-    const std::string listing = profile_.getPrivateProfileString(
-        std::nullopt, std::nullopt, DefaultReturnValue, listingSize, file);
+    const std::string listing =
+        ensuredRead(std::nullopt, std::nullopt, DefaultReturnValue, listingSize, file);
     if (listing.empty()) return {};
     // Only this listing is trimmed and looked at once more; the one of keys is not.
     std::string_view names = trimSpaces(withoutLast(listing));
@@ -105,10 +104,9 @@ Int16 clsINI::getNumberOfSections(std::string_view INIFileLoc) {
 std::string clsINI::getKeysInSection(std::string_view section, std::string_view INIFileLoc) {
     const std::string_view file = fileOr(INIFileLoc);
     const std::string_view place = sectionOr(section);
-    ensureIniFile();
     // One try: of a listing longer than the buffer the rest is lost, and callers live with that.
-    const std::string listing = profile_.getPrivateProfileString(
-        place, std::nullopt, DefaultReturnValue, listingSize, file);
+    const std::string listing =
+        ensuredRead(place, std::nullopt, DefaultReturnValue, listingSize, file);
     return listing.empty() ? std::string() : std::string(withoutLast(listing));
 }
 
@@ -122,10 +120,9 @@ std::string clsINI::getKeyValue(std::string_view key, std::string_view defaultVa
     const std::string_view file = fileOr(INIFileLoc);
     const std::string_view place = sectionOr(section);
     std::string fallback(defaultValue.empty() ? notSet : defaultValue);
-    ensureIniFile();
     // Asked with an empty default, so that a key that is absent and one without a value look the
     // same: both get the default written into the file.
-    std::string value = profile_.getPrivateProfileString(place, key, {}, valueSize, file);
+    std::string value = ensuredRead(place, key, {}, valueSize, file);
     if (!value.empty()) return value;
     setKeyValue(key, fallback, place, file);
     return fallback;
@@ -177,6 +174,14 @@ void clsINI::renameKey(std::string_view currentKey, std::string_view NewKey,
     const std::string value = getKeyValue(currentKey, {}, place, file);
     setKeyValue(NewKey, value, place, file);
     deleteKey(currentKey, place, file);
+}
+
+std::string clsINI::ensuredRead(std::optional<std::string_view> section,
+                                std::optional<std::string_view> key, std::string_view defaultText,
+                                std::size_t size, std::string_view file) {
+    const Files::OneMoment moment = profile_.oneMoment();
+    ensureIniFile();
+    return profile_.getPrivateProfileString(section, key, defaultText, size, file);
 }
 
 // Always the object's own file, also in a call that names another: a foreign file is not created by

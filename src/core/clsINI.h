@@ -72,6 +72,9 @@ class clsINI {
 
   private:
     void ensureIniFile();
+    std::string ensuredRead(std::optional<std::string_view> section,
+                            std::optional<std::string_view> key, std::string_view defaultText,
+                            std::size_t size, std::string_view file);
     static std::string fileNameOf(std::string_view path);
     std::string_view fileOr(std::string_view INIFileLoc) const;
     std::string_view sectionOr(std::string_view section) const;

@@ -7,11 +7,18 @@
 
 namespace tessaro {
 
+bool FileMemory::certain() {
+    if (!watch_ || looked_) return looked_;
+    const bool quiet = watch_->quiet();
+    looked_ = held_ && quiet;
+    return quiet;
+}
+
 void FileMemory::read(std::string_view path, const HostPath& file) {
     // A watch takes longer than to read a small file, and most are read once.
     const bool again = path == path_;
     path_ = path;
-    watch_.reset();
+    doubt();
     WatchedBytes fresh = again ? host_.readWatched(file) : WatchedBytes{host_.read(file), nullptr};
     if (!bytes_ || *bytes_ != fresh.bytes)
         bytes_ = std::make_shared<const std::string>(std::move(fresh.bytes));

@@ -72,6 +72,19 @@ class Files {
     Host& host() { return host_; }
     Paths& paths() { return paths_; }
 
+    /// While one lives, what is read stays as it was at one moment of that time: steps that make up
+    /// one read ask the system once. Not to be held over a write.
+    class OneMoment {
+      public:
+        explicit OneMoment(Files& files) : memory_(files.memory_) { memory_.holdMoment(true); }
+        ~OneMoment() { memory_.holdMoment(false); }
+        OneMoment(const OneMoment&) = delete;
+        OneMoment& operator=(const OneMoment&) = delete;
+
+      private:
+        FileMemory& memory_;
+    };
+
   private:
     bool remembers(std::string_view file);
     std::vector<std::string> namesToDelete(std::string_view pattern);

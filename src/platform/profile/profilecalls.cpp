@@ -68,8 +68,10 @@ std::string ProfileCalls::getPrivateProfileString(std::optional<std::string_view
         auto keys = reader->keys(nameFrom(*section));
         return keys ? cutListing(*std::move(keys), size) : defaultResult();
     }
-    const auto value = reader->value(nameFrom(*section), nameFrom(*key));
-    return value ? std::string(left(*value, size - 1)) : defaultResult();
+    auto value = reader->value(nameFrom(*section), nameFrom(*key));
+    if (!value) return defaultResult();
+    value->resize(left(*value, size - 1).size());
+    return *std::move(value);
 }
 
 ProfileReader& ProfileCalls::readerOf(std::string_view file) {

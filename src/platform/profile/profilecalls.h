@@ -31,6 +31,9 @@ class ProfileCalls {
                                         std::string_view defaultText, std::size_t size,
                                         std::string_view file);
 
+    /// For a read of several steps.
+    Files::OneMoment oneMoment() { return Files::OneMoment(files_); }
+
     /// Writes one key; a missing text deletes the key, a missing key the section. Tells whether it
     /// succeeded; on failure the file is as it was.
     bool writePrivateProfileString(std::string_view section, std::optional<std::string_view> key,

@@ -79,6 +79,36 @@ TEST_F(FileMemoryTest, AFileThatMayBeAnotherIsReadAgain) {
     EXPECT_EQ(*files.content(file), "third");
 }
 
+TEST_F(FileMemoryTest, StepsOfOneMomentSeeTheFileThatTheFirstOneSaw) {
+    remember();
+    {
+        const Files::OneMoment moment(files);
+        EXPECT_EQ(*files.content(file), "first");
+        host.quiet = false;
+        world.write(file, "other");
+        EXPECT_EQ(*files.content(file), "first");
+    }
+    EXPECT_EQ(*files.content(file), "other");
+}
+
+TEST_F(FileMemoryTest, AMomentBeginsWithItsFirstStep) {
+    remember();
+    const Files::OneMoment moment(files);
+    host.quiet = false;
+    world.write(file, "other");
+    EXPECT_EQ(*files.content(file), "other");
+}
+
+TEST_F(FileMemoryTest, AMomentIsOneOfOneFile) {
+    world.write("C:\\game\\other.ini", "second");
+    remember();
+    const Files::OneMoment moment(files);
+    EXPECT_EQ(*files.content(file), "first");
+    EXPECT_EQ(*files.content("C:\\game\\other.ini"), "second");
+    world.write("C:\\game\\other.ini", "third");
+    EXPECT_EQ(*files.content("C:\\game\\other.ini"), "third");
+}
+
 TEST_F(FileMemoryTest, WithoutAWatchItIsReadEachTimeAndTheSameBytesAreTheSameObject) {
     host.watches = false;
     remember();
