@@ -22,14 +22,21 @@ void addName(std::string& listing, const ProfileText& text, std::string_view nam
 ProfileReader::ProfileReader(std::string_view bytes) : text_(bytes) {
     for (auto each = text_.sectionFrom(0); each; each = text_.sectionFrom(each->body))
         sections_.try_emplace(readable(each->name), Section{*each, {}});
+    lastFound_ = sections_.end();
+}
+
+ProfileReader::Section* ProfileReader::find(std::string_view section) {
+    if (lastFound_ == sections_.end() || lastFound_->first != section)
+        lastFound_ = sections_.find(section);
+    return lastFound_ == sections_.end() ? nullptr : &lastFound_->second;
 }
 
 std::optional<std::string> ProfileReader::value(std::string_view section, std::string_view key) {
-    const auto place = sections_.find(section);
-    if (place == sections_.end()) return std::nullopt;
-    if (!place->second.values) takeValues(place->second);
-    const auto found = place->second.values->find(key);
-    if (found == place->second.values->end()) return std::nullopt;
+    Section* place = find(section);
+    if (place == nullptr) return std::nullopt;
+    if (!place->values) takeValues(*place);
+    const auto found = place->values->find(key);
+    if (found == place->values->end()) return std::nullopt;
     return text_.decoded(withoutQuotes(found->second));
 }
 
@@ -55,10 +62,10 @@ std::string ProfileReader::sections() const {
 }
 
 std::optional<std::string> ProfileReader::keys(std::string_view section) {
-    const auto place = sections_.find(section);
-    if (place == sections_.end()) return std::nullopt;
+    const Section* found = find(section);
+    if (found == nullptr) return std::nullopt;
     std::string listing;
-    ProfileLines lines = text_.lines(place->second.place);
+    ProfileLines lines = text_.lines(found->place);
     while (const auto line = lines.next()) {
         if (const auto key = keyOf(*line)) addName(listing, text_, key->name);
     }

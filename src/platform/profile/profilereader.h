@@ -43,11 +43,13 @@ class ProfileReader {
         std::optional<ByName<std::string_view>> values;  // nothing until one is asked for
     };
 
+    Section* find(std::string_view section);
     std::string_view readable(std::string_view name);
     void takeValues(Section& section);
 
     ProfileText text_;
     ByName<Section> sections_;
+    ByName<Section>::iterator lastFound_;   // reads of one section come in a row
     std::deque<std::string> decodedNames_;  // of those that are not UTF-8 where they stand
 };
 
