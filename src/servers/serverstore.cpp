@@ -43,22 +43,10 @@ void makeMissingFile(Program& program, const std::string& file) {
     program.table.close(number);
 }
 
-ListItem makeRow(std::string name, std::string address, std::string port) {
-    ListItem row{std::move(name), {}};
-    row.subItems.reserve(2);
-    row.subItems.push_back(std::move(address));
-    row.subItems.push_back(std::move(port));
-    return row;
-}
-
 // What a line lacks stays as the line before had it: an empty line shows a server twice.
-ListItem rowOf(std::string_view line, const ListItem& before) {
+void takeFields(std::string_view line, std::array<std::string_view, 3>& server) {
     const Fields fields = fieldsOf(line);
-    const auto text = [](const std::optional<std::string_view>& field, const std::string& other) {
-        return field ? std::string(*field) : other;
-    };
-    return makeRow(text(fields[0], before.text), text(fields[1], before.subItems[0]),
-                   text(fields[2], before.subItems[1]));
+    for (std::size_t i = 0; i < server.size(); ++i) server[i] = fields[i].value_or(server[i]);
 }
 
 std::string favoriteKey(int number) {
@@ -67,9 +55,9 @@ std::string favoriteKey(int number) {
 
 void importFavorite(const std::string& favorite, ServerNames& names, ListItems& list) {
     const Fields fields = fieldsOf(favorite);
-    const std::string name = required(fields[0]);
+    std::string name = required(fields[0]);
     if (names.ServerInList(name) == Yes) return;
-    const std::size_t row = list.add(name);
+    const std::size_t row = list.add(std::move(name));
     names.add(list.item(row).text);
     // Both go in at the first place, so the address pushes the port to the second.
     list.addSubItem(row, 1, required(fields[2]));
@@ -87,7 +75,7 @@ ServerRecord serverAt(const ListItems& list, std::size_t row) {
 }
 
 void addServer(ListItems& list, const ServerRecord& server) {
-    list.addRow(makeRow(server.ServerName, server.IP, server.Port));
+    list.addRow(server.ServerName, {server.IP, server.Port});
 }
 
 void LoadServerList(Program& program, ListItems& list) {
@@ -95,11 +83,10 @@ void LoadServerList(Program& program, ListItems& list) {
     makeMissingFile(program, file);
     const int number = program.table.freeNumber();
     program.table.openInput(number, file);
-    const ListItem none = makeRow({}, {}, {});
-    const ListItem* before = &none;
+    std::array<std::string_view, 3> server;
     while (!program.table.endOfFile(number)) {
-        const std::size_t row = list.addRow(rowOf(program.table.lineInput(number), *before));
-        before = &list.item(row);
+        takeFields(program.table.lineInput(number), server);
+        list.addRow(server[0], {server[1], server[2]});
     }
     program.table.close(number);
 }

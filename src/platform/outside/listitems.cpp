@@ -8,6 +8,12 @@
 namespace tessaro {
 namespace {
 
+// Rows for which room is made at once.
+constexpr std::size_t fewest = 8;
+constexpr std::size_t most = 512;
+
+using SubItems = decltype(ListItem::subItems);
+
 const std::string& textOf(const ListItem& row, int column) {
     static const std::string none;
     if (column <= 0) return row.text;
@@ -55,10 +61,13 @@ void ListItems::notify() const {
 }
 
 std::size_t ListItems::add(std::size_t index, std::string text) {
-    return insert(index, {std::move(text), {}, false});
+    return insert(index, {std::move(text), SubItems(room_.get())});
 }
 
-std::size_t ListItems::addRow(ListItem row) {
+std::size_t ListItems::addRow(std::string_view text,
+                              std::initializer_list<std::string_view> subItems) {
+    ListItem row{std::string(text), SubItems(room_.get())};
+    row.subItems.assign(subItems.begin(), subItems.end());
     return insert(count() + 1, std::move(row));
 }
 
@@ -72,7 +81,11 @@ std::size_t ListItems::insert(std::size_t index, ListItem&& row) {
 }
 
 ListItem* ListItems::keep(ListItem&& row) {
-    if (removed_.empty()) return &kept_.emplace_back(std::move(row));
+    if (removed_.empty()) {
+        if (kept_.empty() || kept_.back().size() == kept_.back().capacity())
+            kept_.emplace_back().reserve(std::clamp(count(), fewest, most));
+        return &kept_.back().emplace_back(std::move(row));
+    }
     ListItem* const room = removed_.back();
     removed_.pop_back();
     *room = std::move(row);
@@ -108,8 +121,9 @@ void ListItems::setSubItem(std::size_t index, std::string_view columnKey, std::s
 }
 
 void ListItems::addSubItem(std::size_t index, std::size_t column, std::string text) {
-    std::vector<std::string>& subItems = at(index).subItems;
+    SubItems& subItems = at(index).subItems;
     requireIndex(column, subItems.size() + 1);
+    if (subItems.empty()) subItems.reserve(columns_.size() - 1);
     subItems.insert(subItems.begin() + static_cast<std::ptrdiff_t>(column - 1), std::move(text));
     notify();
 }
@@ -133,6 +147,7 @@ void ListItems::clear() {
     rows_.clear();
     removed_.clear();
     kept_.clear();
+    room_->release();
     picked_ = 0;
     notify();
 }

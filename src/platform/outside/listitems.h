@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
 #include <functional>
+#include <initializer_list>
+#include <memory>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,7 +15,7 @@ namespace tessaro {
 /// A row of a list: its text and the sub-items under the columns after the first.
 struct ListItem {
     std::string text;
-    std::vector<std::string> subItems;
+    std::pmr::vector<std::string> subItems;
     bool selected = false;  ///< highlighted by the user
 };
 
@@ -44,7 +46,7 @@ class ListItems {
     std::size_t add(std::string text) { return add(count() + 1, std::move(text)); }
     /// Adds a row with its sub-items at the end, as one change. In a sorted list it goes where its
     /// text in the sorted column belongs.
-    std::size_t addRow(ListItem row);
+    std::size_t addRow(std::string_view text, std::initializer_list<std::string_view> subItems);
     /// Sub-item of a column counted from 1, the row's text being column 0.
     void setSubItem(std::size_t index, std::size_t column, std::string text);
     /// Sub-item of the column with that key. Raises 35600 if there is none.
@@ -87,8 +89,12 @@ class ListItems {
     void notify() const;
 
     std::vector<ListColumn> columns_;
+    // For the rows' sub-items: many small pieces that go when the list is cleared. What an edit
+    // leaves unused until then is small.
+    std::unique_ptr<std::pmr::monotonic_buffer_resource> room_ =
+        std::make_unique<std::pmr::monotonic_buffer_resource>();
     // Rows stay where they are in memory, so that one can be put between thousands at little cost.
-    std::deque<ListItem> kept_;
+    std::vector<std::vector<ListItem>> kept_;
     Rows rows_;
     Rows removed_;  // room in `kept_` for others
     std::size_t picked_ = 0;

@@ -186,7 +186,7 @@ TEST(ListItems, ARowAddedWithItsSubItemsIsOneChangeAtTheEnd) {
     items.pick(2);
     int changes = 0;
     items.changed = [&] { ++changes; };
-    EXPECT_EQ(items.addRow({"b", {"10.0.0.1", "7777"}}), 3u);
+    EXPECT_EQ(items.addRow("b", {"10.0.0.1", "7777"}), 3u);
     EXPECT_EQ(changes, 1);
     EXPECT_THAT(texts(items), ElementsAre("a", "c", "b"));
     EXPECT_THAT(items.item(3).subItems, ElementsAre("10.0.0.1", "7777"));
@@ -198,7 +198,7 @@ TEST(ListItems, ARowAddedWithItsSubItemsGoesToItsPlaceInTheSortedColumn) {
     items.setSubItem(1, 1, "10.0.0.1");
     items.setSubItem(2, 1, "10.0.0.3");
     items.sort(1, 0);
-    EXPECT_EQ(items.addRow({"a", {"10.0.0.2"}}), 2u);
+    EXPECT_EQ(items.addRow("a", {"10.0.0.2"}), 2u);
     EXPECT_THAT(texts(items), ElementsAre("x", "a", "y"));
 }
 
