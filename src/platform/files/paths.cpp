@@ -64,11 +64,6 @@ bool liesIn(const HostPath& path, const HostPath& root) {
     return std::mismatch(root.begin(), root.end(), path.begin(), path.end()).first == root.end();
 }
 
-std::optional<HostPath> spelledIn(const HostPath& folder, const FolderIndex::Finding& finding) {
-    if (!finding.name) return std::nullopt;
-    return folder / hostName(*finding.name);
-}
-
 }  // namespace
 
 Paths::Paths(Host& host, DriveMap drives) : host_(host), roots_(std::move(drives)), index_(host) {
@@ -91,22 +86,90 @@ HostPath Paths::toHostFull(std::string_view full) {
     const auto [folder, name] = Split(full);
     // The search that has just failed knows the folder, if there is one.
     const auto known = found_.find(folder);
-    return (known != found_.end() ? known->second : toHostFull(folder)) / hostName(name);
+    if (known == found_.end()) return toHostFull(folder) / hostName(name);
+    const auto& [path, layers] = known->second;
+    return layers ? layers->placeForNew(name) : path / hostName(name);
 }
 
 std::optional<HostPath> Paths::findFull(std::string_view full) {
     if (isRoot(full)) return rootOf(full.front());
     const auto [folder, name] = Split(full);
     if (const auto known = found_.find(folder); known != found_.end()) {
-        const auto finding = index_.find(known->second, name);
-        if (finding.folder) return spelledIn(known->second, finding);
+        auto finding = findIn(known->second, name);
+        if (finding.folder) return std::move(finding.path);
         found_.erase(known);  // deleted, or spelled otherwise by now
     }
-    const auto above = findFull(folder);
+    auto above = findFull(folder);
     if (!above) return std::nullopt;
-    const auto finding = index_.find(*above, name);
-    if (finding.folder) found_.emplace(folder, *above);
-    return spelledIn(*above, finding);
+    Folder place = folderAt(folder, *std::move(above));
+    auto finding = findIn(place, name);
+    if (finding.folder) found_.emplace(folder, std::move(place));
+    return std::move(finding.path);
+}
+
+LayeredFolder::Finding Paths::findIn(const Folder& folder, std::string_view name) {
+    if (folder.layers) return folder.layers->find(name);
+    const auto finding = index_.find(folder.path, name);
+    if (const LayeredFolder* layers = finding.folder ? layers_.in(folder.path, name) : nullptr) {
+        return {true, layers->place()};
+    }
+    if (!finding.name) return {finding.folder, std::nullopt};
+    return {true, folder.path / hostName(*finding.name)};
+}
+
+// A folder that was just found; so was the one above it.
+Paths::Folder Paths::folderAt(std::string_view full, HostPath path) {
+    return {std::move(path), layersOf(full)};
+}
+
+// Of a folder that is known to be there, as the folders above it then are.
+LayeredFolder* Paths::layersOf(std::string_view full) {
+    if (isRoot(full)) return nullptr;
+    const auto [above, name] = Split(full);
+    const auto game = found_.find(above);
+    return game == found_.end() ? nullptr : layers_.in(game->second.path, name);
+}
+
+LayeredFolder* Paths::layersRound(std::string_view full) {
+    if (isRoot(full)) return nullptr;
+    const auto folder = found_.find(Split(full).folder);
+    return folder == found_.end() ? nullptr : folder->second.layers;
+}
+
+HostPath Paths::toWrite(std::string_view path) {
+    const std::string full = absolute(path);
+    HostPath place = toHostFull(full);
+    const LayeredFolder* layers = layersRound(full);
+    return layers ? layers->toWrite(Split(full).name) : place;
+}
+
+bool Paths::canBeOvertaken(std::string_view path) {
+    const std::string full = absolute(path);
+    const LayeredFolder* layers = layersRound(full);
+    return layers && !layers->find(Split(full).name).first;
+}
+
+std::optional<HostPath> Paths::templateOf(std::string_view path) {
+    const std::string full = absolute(path);
+    const LayeredFolder* layers = layersRound(full);
+    return layers ? layers->templateOf(Split(full).name) : std::nullopt;
+}
+
+std::vector<HostPath> Paths::folders(std::string_view folder) {
+    const std::string full = absolute(folder);
+    auto place = findFull(full);
+    if (!place) return {};
+    const LayeredFolder* layers = layersOf(full);
+    return layers ? layers->folders() : std::vector{*std::move(place)};
+}
+
+std::string Paths::spelled(std::string_view full) {
+    if (isRoot(full)) return std::string(full);
+    const auto [folder, name] = Split(full);
+    const auto place = findFull(full);
+    std::string path = spelled(folder);
+    if (!path.ends_with('\\')) path += '\\';
+    return path + (place ? gameName(place->filename().string()) : std::string(name));
 }
 
 std::string Paths::toGame(const HostPath& path) const {

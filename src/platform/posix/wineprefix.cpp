@@ -1,9 +1,9 @@
-#include <pwd.h>
-#include <unistd.h>
+#include "platform/posix/wineprefix.h"
 
 #include <cstdlib>
 
 #include "platform/files/drives.h"
+#include "platform/posix/home.h"
 #include "platform/text/ascii.h"
 
 namespace tessaro {
@@ -12,17 +12,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-HostPath home() {
-    if (const char* fromEnvironment = std::getenv("HOME"); fromEnvironment && *fromEnvironment) {
-        return fromEnvironment;
-    }
-    const passwd* user = ::getpwuid(::getuid());
-    return user && user->pw_dir ? user->pw_dir : "/";
-}
+constexpr std::string_view driveFolder = "drive_c";
+constexpr std::string_view linksFolder = "dosdevices";
 
 HostPath winePrefix() {
     const char* prefix = std::getenv("WINEPREFIX");
-    return prefix && *prefix ? HostPath(prefix) : home() / ".wine";
+    return prefix && *prefix ? HostPath(prefix) : homeFolder() / ".wine";
 }
 
 // Adds nothing if there is no such folder, as for a link whose disk is not plugged in.
@@ -44,14 +39,24 @@ DriveMap hostDrives() {
     DriveMap drives;
     const HostPath prefix = winePrefix();
     std::error_code error;
-    fs::directory_iterator links(prefix / "dosdevices", error);
+    fs::directory_iterator links(prefix / linksFolder, error);
     for (; !error && links != fs::directory_iterator(); links.increment(error)) {
         const char letter = letterOf(links->path().filename().native());
         if (letter) addDrive(drives, letter, links->path());
     }
-    addDrive(drives, 'C', prefix / "drive_c");
+    addDrive(drives, 'C', prefix / driveFolder);
     addDrive(drives, 'Z', "/");
     return drives;
+}
+
+bool liesInWinePrefix(const HostPath& folder) {
+    std::error_code error;
+    HostPath above = fs::weakly_canonical(folder, error);
+    for (; above.has_relative_path(); above = above.parent_path()) {
+        const bool drive = above.filename() == driveFolder;
+        if (drive && fs::is_directory(above.parent_path() / linksFolder, error)) return true;
+    }
+    return false;
 }
 
 }  // namespace tessaro
