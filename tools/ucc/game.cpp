@@ -1,14 +1,19 @@
 // tessaro-ut [ARGUMENT...]: stands in for the game itself. It notes what it was started with, the
-// program and each argument on a line of its own, in UnrealTournament.cmdline beside itself.
+// program and each argument on a line of its own, in UnrealTournament.cmdline beside itself, or,
+// under a name such as ut-bin-amd64, in the player's folder.
 
 #include <exception>
 #include <fstream>
 
 #include "platform/files/host.h"
+#include "tools/ucc/nativestart.h"
 
 int main(int argc, char** argv) {
     try {
-        std::ofstream note(tessaro::executablePath().parent_path() / "UnrealTournament.cmdline");
+        const tessaro::HostPath program = tessaro::executablePath();
+        const auto start = tessaro::ucc::NativeStart::of(program);
+        const tessaro::HostPath folder = start ? start->written() : program.parent_path();
+        std::ofstream note(folder / "UnrealTournament.cmdline");
         for (int i = 0; i < argc; ++i) note << argv[i] << '\n';
         note.close();
         return note ? 0 : 1;
