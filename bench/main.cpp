@@ -11,8 +11,9 @@ int main() {
     try {
         using namespace tessaro::bench;
         bool kept = true;
-        for (const auto figure : {extractMissingFiles, extractPresentFiles, profileFile,
-                                  importFavorites, playerList, firstPaint, compressBatch}) {
+        for (const auto figure :
+             {extractMissingFiles, extractMissingNativeFiles, extractPresentFiles, profileFile,
+              importFavorites, playerList, firstPaint, compressBatch}) {
             kept = figure() && kept;
         }
         return kept ? 0 : 1;

@@ -71,9 +71,7 @@ TEST_F(NativeEditor, EditsTheFilesThatTheGameReads) {
     world.dialogs.answer(Answer::Yes);
     editor.loadCacheIni();
     EXPECT_TRUE(read(programs() / "User.ini") ==
-                "[Changed]" + before.substr(before.find('
-')) + "
-");
+                "[Changed]" + before.substr(before.find('\n')) + "\r\n");
     EXPECT_EQ(view.box.lines.front(), u"[Cache]");
     EXPECT_EQ(view.box.lines.size(), layout().cacheLines.size() + 2);
     editor.loadUnrealTournamentIni();

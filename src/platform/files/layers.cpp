@@ -63,7 +63,7 @@ LayeredFolder::LayeredFolder(Host& host, FolderIndex& index, Kind kind, const Na
       folders_(foldersOf(kind, game, name, own_)) {}
 
 LayeredFolder::Finding LayeredFolder::find(std::string_view name) const {
-    if (const HostPath program = programNamed(name); !program.empty()) return {true, program};
+    if (const HostPath* program = programNamed(name)) return {true, *program};
     if (const Profile* profile = profileNamed(name)) return findProfile(*profile);
     if (Finding result = findResult(name); result.path) return result;
     return search(name, folders_.size());
@@ -94,8 +94,10 @@ LayeredFolder::Finding LayeredFolder::findProfile(const Profile& profile) const 
 
 // What ucc may have made of a file, beside it.
 LayeredFolder::Finding LayeredFolder::findResult(std::string_view name) const {
-    if (!lowerCase(name).ends_with(compressedEnd)) return {};
-    const Finding source = find(name.substr(0, name.size() - compressedEnd.size()));
+    if (name.size() < compressedEnd.size()) return {};
+    const std::size_t end = name.size() - compressedEnd.size();
+    if (!sameName(name.substr(end), compressedEnd)) return {};
+    const Finding source = find(name.substr(0, end));
     if (!source.path) return {};
     const auto finding = index_.find(folders_[source.layer], name);
     if (!finding.name) return {};
@@ -109,14 +111,18 @@ const LayeredFolder::Profile* LayeredFolder::profileNamed(std::string_view name)
     return found == std::end(profiles) ? nullptr : found;
 }
 
-HostPath LayeredFolder::programNamed(std::string_view name) const {
-    if (kind_ != Kind::System) return {};
-    if (sameName(name, "ucc.exe")) return game_.ucc;
-    return sameName(name, "unrealtournament.exe") ? game_.game : HostPath();
+// Null if it is no program's name, or the game has none of it.
+const HostPath* LayeredFolder::programNamed(std::string_view name) const {
+    if (kind_ != Kind::System) return nullptr;
+    if (sameName(name, "ucc.exe") && !game_.ucc.empty()) return &game_.ucc;
+    return sameName(name, "unrealtournament.exe") && !game_.game.empty() ? &game_.game : nullptr;
 }
 
 std::optional<HostPath> LayeredFolder::place() const {
-    // Not the programs' folder, which has another name.
+    if (kind_ == Kind::System) {
+        const Finding ini = findProfile(profiles[0]);
+        if (ini.path) return folders_[ini.layer];
+    }
     if (!game_.home.empty() && isFolder(host_, folders_.front())) return folders_.front();
     return isFolder(host_, own_) ? std::optional(own_) : std::nullopt;
 }

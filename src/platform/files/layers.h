@@ -69,8 +69,11 @@ class LayeredFolder {
                   std::string_view name, HostPath own);
 
     Finding find(std::string_view name) const;
-    /// The host folder that stands for the whole, for one who enters it; nothing if none is there.
+    /// The host folder for one who enters the whole: of System the one with the game's INI, else
+    /// HOME's, else the game's. Nothing if none is there.
     std::optional<HostPath> place() const;
+    /// The name as it is spelled in the game's folder.
+    std::string name() const { return own_.filename().string(); }
     /// The upper first. They need not be there.
     const std::vector<HostPath>& folders() const { return folders_; }
     /// Where a name that is in none of them would come to be.
@@ -88,7 +91,7 @@ class LayeredFolder {
     struct Profile;
     static const Profile profiles[];
     const Profile* profileNamed(std::string_view name) const;
-    HostPath programNamed(std::string_view name) const;
+    const HostPath* programNamed(std::string_view name) const;
     Finding search(std::string_view name, std::size_t depth, bool exact = false) const;
     Finding findProfile(const Profile& profile) const;
     Finding findResult(std::string_view name) const;

@@ -167,9 +167,11 @@ std::string Paths::spelled(std::string_view full) {
     if (isRoot(full)) return std::string(full);
     const auto [folder, name] = Split(full);
     const auto place = findFull(full);
+    const LayeredFolder* layers = layersOf(full);
     std::string path = spelled(folder);
     if (!path.ends_with('\\')) path += '\\';
-    return path + (place ? gameName(place->filename().string()) : std::string(name));
+    if (!place) return path.append(name);
+    return path + gameName(layers ? layers->name() : place->filename().string());
 }
 
 std::string Paths::toGame(const HostPath& path) const {

@@ -214,6 +214,16 @@ TEST_F(LayersTest, AFolderReadsAsTheGamesWhereverItsFilesAre) {
               game.path("System\\Screenshots\\new"));
 }
 
+TEST_F(LayersTest, OneWhoEntersSystemComesToTheInisOfTheGame) {
+    putWritten("System/UnrealTournament.log");
+    EXPECT_EQ(find("System"), game.written() / "System");
+    put(game.programs() / "UnrealTournament.ini");
+    EXPECT_EQ(find("System"), game.programs());
+    EXPECT_EQ(world.paths.spelled(game.path("SYSTEM")), game.path("System"));
+    putWritten("System/UnrealTournament.ini");
+    EXPECT_EQ(find("System"), game.written() / "System");
+}
+
 TEST_F(LayersTest, TheFoldersOfAStackAreTheUpperFirst) {
     EXPECT_THAT(world.paths.folders(game.path("maps")),
                 ElementsAre(game.written() / "Maps", game.root() / "Maps"));
