@@ -16,7 +16,7 @@ constexpr int fileCount = 100;
 constexpr int rounds = 11;
 constexpr double mark = 1.15;
 
-/// Watches a batch without doing anything.
+// Watches a batch without doing anything.
 class NoObserver : public BatchObserver {
   public:
     void setRunning(bool) override {}

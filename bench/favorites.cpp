@@ -36,9 +36,8 @@ std::string gameIni(int favorites) {
                        "]\r\nFavoriteCount=" + std::to_string(favorites) + "\r\n";
     for (int i = 0; i < favorites; ++i) text += favoriteKey(i) + "=" + favorite(i) + "\r\n";
     text += "\r\n[Bench.Growth]\r\n";
-    for (int i = 0; text.size() < fileSize; ++i) {
+    for (int i = 0; text.size() < fileSize; ++i)
         text += "Growth" + std::to_string(i) + "=what else the game remembers\r\n";
-    }
     return text;
 }
 
@@ -46,7 +45,7 @@ void require(bool right) {
     if (!right) throw std::runtime_error("a favourite is not what was written");
 }
 
-/// A game's file with so many favourites, read in both ways.
+// A game's file with so many favourites, read in both ways.
 class Import {
   public:
     explicit Import(int favorites) : favorites_(favorites) {
@@ -68,9 +67,8 @@ class Import {
   private:
     void read(clsINI& ini) const {
         require(ini.getKeyValue("FavoriteCount", "0", section) == std::to_string(favorites_));
-        for (int i = 0; i < favorites_; ++i) {
+        for (int i = 0; i < favorites_; ++i)
             require(ini.getKeyValue(favoriteKey(i), "0", section).starts_with("Server "));
-        }
     }
 
     void readReference() {

@@ -17,10 +17,10 @@ constexpr double mark = 1.30;
 constexpr double nanosecondsInAMillisecond = 1e6;
 constexpr double kilobytesInAMegabyte = 1024;
 
-/// What a program told at its first paint.
+// What a program told at its first paint.
 struct Paint {
-    double milliseconds = 0;  ///< since the process was started
-    double megabytes = 0;     ///< resident then
+    double milliseconds = 0;  // since the process was started
+    double megabytes = 0;     // resident then
 };
 
 Paint startAndPaint(const HostPath& program) {
@@ -53,7 +53,7 @@ void makeGame(const World& world) {
                 "WindowSize=0\r\n");
 }
 
-/// Copies a program into the world, where its settings lie beside it.
+// Copies a program into the world, where its settings lie beside it.
 HostPath install(const World& world, const std::string& name) {
     const HostPath installed = world.at("C:\\Tessaro\\" + name);
     std::filesystem::copy_file(executablePath().parent_path() / name, installed);

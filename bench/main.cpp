@@ -13,9 +13,8 @@ int main() {
         bool kept = true;
         for (const auto figure :
              {extractMissingFiles, extractMissingNativeFiles, extractPresentFiles, profileFile,
-              importFavorites, playerList, firstPaint, compressBatch}) {
+              importFavorites, playerList, firstPaint, compressBatch})
             kept = figure() && kept;
-        }
         return kept ? 0 : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "The benchmarks broke off: %s\n", error.what());

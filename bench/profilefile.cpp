@@ -31,7 +31,7 @@ std::string profileText() {
     return text + "\r\n[" + section + "]\r\n" + key + "=0\r\nBehind=1\r\n";
 }
 
-/// A key file of GLib's, loaded anew for each call, as ours is read anew.
+// A key file of GLib's, loaded anew for each call, as ours is read anew.
 class KeyFile {
   public:
     explicit KeyFile(const char* file) : file_(::g_key_file_new()) {
@@ -64,7 +64,7 @@ void require(bool right) {
     if (!right) throw std::runtime_error("the key has another value");
 }
 
-/// One file for each side, since each writes it in its own way.
+// One file for each side, since each writes it in its own way.
 class Sides {
   public:
     Sides() : world_("/dev/shm"), fresh_(world_), ini_(fresh_.program.makeINI()) {

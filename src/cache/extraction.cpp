@@ -32,15 +32,15 @@ void Extraction::run(const std::string& cacheFolder) {
     if (!extractUntilStopped(cacheFolder)) askToClose();
 }
 
-/// Relative names: a change of folder does not change the drive, so for a destination on another
-/// drive these are looked for, and made, on the current one.
+// Relative names: a change of folder does not change the drive, so for a destination on another
+// drive these are looked for, and made, on the current one.
 void Extraction::prepareFolders() {
     for (const char* folder : {"maps", "system", "textures", "sounds", "music"}) {
         if (DirExists(program_, folder) != Yes) program_.files.makeFolder(folder);
     }
 }
 
-/// The buttons stay as in a run: only "&Stop" brings "&Extract" back.
+// The buttons stay as in a run: only "&Stop" brings "&Extract" back.
 bool Extraction::announceMissingIndex(const std::string& index) {
     if (FileExists(program_, index) == Yes) return false;
     observer_.setBusyPointer(false);
@@ -52,9 +52,9 @@ bool Extraction::announceMissingIndex(const std::string& index) {
     return true;
 }
 
-/// Tells whether the user stopped it. A failure anywhere in here (a full disk, a locked target, a
-/// counter past its width, the index closed by the form's end) leads to the closing question
-/// without a word of it, also when it comes after the press on "&Stop".
+// Tells whether the user stopped it. A failure anywhere in here (a full disk, a locked target, a
+// counter past its width, the index closed by the form's end) leads to the closing question
+// without a word of it, also when it comes after the press on "&Stop".
 bool Extraction::extractUntilStopped(const std::string& cacheFolder) {
     attempt([&] { program_.table.openInput(sharedFileNumber, cacheIndexIn(cacheFolder)); });
     bool stopped = false;
@@ -80,7 +80,7 @@ void Extraction::pass(const std::string& cacheFolder) {
     entry.InputData.clear();
 }
 
-/// The game has removed the file: counted, and the walk goes on.
+// The game has removed the file: counted, and the walk goes on.
 void Extraction::noteFailure() {
     const std::string number = std::to_string(entry.linecnt2);
     List2.push_back(entry.cfile + ",     " + number);
@@ -106,12 +106,11 @@ void Extraction::extract() {
     }
 }
 
-/// What the index holds came from the servers that the player visited. A name that leads out of the
-/// destination is none that a file can bear.
+// What the index holds came from the servers that the player visited. A name that leads out of the
+// destination is none that a file can bear.
 void Extraction::copyTo(const std::string& destination) {
-    if (!program_.paths.isInside(destination, entry.mypath)) {
+    if (!program_.paths.isInside(destination, entry.mypath))
         throw RunTimeError(errors::BadFileNumber, destination);
-    }
     if (FileExists(program_, destination) == Yes) {
         ++entry.EFile;
         if (!observer_.overwriteExisting()) return;
@@ -145,8 +144,8 @@ void Extraction::StopExtraction() {
     closeIndex();
 }
 
-/// The order never returns to ascending, and the test compares a column counted from 0 with one
-/// counted from 1.
+// The order never returns to ascending, and the test compares a column counted from 0 with one
+// counted from 1.
 void Extraction::sortBy(int column) {
     if (ListView1.sortKey() == column && ListView1.sortOrder() == 0) ListView1.setSortOrder(1);
     ListView1.setSortKey(column - 1);

@@ -67,7 +67,7 @@ void mapext::setupStepThree() {
        [this] { showStep(*ui_->Frame4, *ui_->Command5); });
 }
 
-/// Enter confirms a typed folder while the box has the focus, and leads on everywhere else.
+// Enter confirms a typed folder while the box has the focus, and leads on everywhere else.
 void mapext::setupDefaultButtons() {
     onward_ = ui_->next;
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {

@@ -26,9 +26,8 @@ void saveExtractDest(Program& program, clsINI& phile, std::string_view destinati
 }
 
 void rememberCacheFolder(Program& program, const std::string& chosenFolder) {
-    if (FileExists(program, cacheIndexIn(chosenFolder)) == Yes) {
+    if (FileExists(program, cacheIndexIn(chosenFolder)) == Yes)
         program.gamePaths.UTMapPath = chosenFolder;
-    }
 }
 
 std::string offeredDestination(Program& program) {

@@ -19,13 +19,13 @@ comp::comp(Forms& forms, Program& program)
 
 comp::~comp() = default;
 
-/// The form steps aside for its batch, which needs its list and unloads it in the end.
+// The form steps aside for its batch, which needs its list and unloads it in the end.
 void comp::showBatch() {
     hide();
     forms().show<comp2>();
 }
 
-/// A minimised main window would come up when the tool closes.
+// A minimised main window would come up when the tool closes.
 void comp::Unload() {
     auto* main = forms().loaded<MainFrm>();
     if (main != nullptr && main->isMinimized()) main->hide();

@@ -18,7 +18,7 @@ void comp2::Load() {
     fillBatch(forms().get<comp>().dropped(), batch_.ListView1, program_.CompressDest);
 }
 
-/// Every way out of the batch ends the whole tool.
+// Every way out of the batch ends the whole tool.
 void comp2::Unload() {
     if (auto* list = forms().loaded<comp>()) forms().unload(*list);
 }

@@ -26,13 +26,12 @@ void CompressBatch::run() {
     observer_.setRunning(false);
     if (confirmClosing(program_,
                        "File Batch Compression Complete.\nDo you wish to close UT File Compressor?",
-                       "Compression Completed")) {
+                       "Compression Completed"))
         statement([&] { observer_.closeTool(); });
-    }
 }
 
-/// The switch to ignoring failures stands at the end of a file's steps, so that it covers every
-/// file of a run but the first.
+// The switch to ignoring failures stands at the end of a file's steps, so that it covers every
+// file of a run but the first.
 template <class Statement>
 void CompressBatch::statement(Statement&& step) {
     if (ignoresFailures_) {
@@ -66,13 +65,12 @@ void CompressBatch::compress(const std::string& file, const std::string& target)
     }
     // A destination that has vanished is not spoken of: the result stays beside its source. The
     // two are told apart as texts, so the same folder in another spelling counts as another one.
-    if (DirExists(program_, program_.CompressDest) == Yes && produced != target) {
+    if (DirExists(program_, program_.CompressDest) == Yes && produced != target)
         moveResult(produced, target);
-    }
 }
 
-/// Two statements: while failures are ignored, a copy that failed does not keep the file from being
-/// deleted, and the result is lost.
+// Two statements: while failures are ignored, a copy that failed does not keep the file from being
+// deleted, and the result is lost.
 void CompressBatch::moveResult(const std::string& produced, const std::string& target) {
     statement([&] { program_.files.copyFile(produced, target); });
     statement([&] { program_.files.deleteFiles(produced); });

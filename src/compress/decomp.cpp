@@ -16,7 +16,7 @@ decomp::decomp(Forms& forms, Program& program)
 
 decomp::~decomp() = default;
 
-/// The form stays in sight behind its batch.
+// The form stays in sight behind its batch.
 void decomp::showBatch() {
     forms().showModal<decomp2>();
 }

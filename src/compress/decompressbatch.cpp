@@ -32,7 +32,7 @@ void DecompressBatch::run() {
     askToClose();
 }
 
-/// A source that has vanished is passed over, and the bar does not move for it.
+// A source that has vanished is passed over, and the bar does not move for it.
 void DecompressBatch::pass() {
     UZfiles_ = ListView1.item(static_cast<std::size_t>(i_)).text;
     Decompfile_ = expdest_ + "\\" + GetFileName(program_, packagePathOf(UZfiles_));
@@ -47,8 +47,8 @@ void DecompressBatch::pass() {
     observer_.showProgress(i_);
 }
 
-/// The tool is taken to write into the system folder, wherever its source lies. A result that
-/// cannot be moved because the destination has gone stays there, without a word.
+// The tool is taken to write into the system folder, wherever its source lies. A result that
+// cannot be moved because the destination has gone stays there, without a word.
 void DecompressBatch::DoDecompression() {
     ucc_.run(UccTask::Decompress, UZfiles_);
     const std::string name = GetFileName(program_, Decompfile_);
@@ -66,9 +66,9 @@ void DecompressBatch::DoDecompression() {
     }
 }
 
-/// The system folder is a mere staging place: a package of the game's that the tool has written
-/// over is gone after the move. The row goes where the file stands in the batch, which the list
-/// refuses when a file before it left no row.
+// The system folder is a mere staging place: a package of the game's that the tool has written
+// over is gone after the move. The row goes where the file stands in the batch, which the list
+// refuses when a file before it left no row.
 void DecompressBatch::moveResult(const std::string& name) {
     program_.files.copyFile(FromFile_, Decompfile_);
     program_.files.deleteFiles(FromFile_);

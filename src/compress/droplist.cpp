@@ -8,12 +8,11 @@
 namespace tessaro {
 namespace {
 
-/// The position behind the last backslash.
+// The position behind the last backslash.
 std::size_t nameStart(std::string_view path) {
     const std::size_t backslash = path.rfind('\\');
-    if (backslash == std::string_view::npos) {
+    if (backslash == std::string_view::npos)
         throw RunTimeError(errors::InvalidProcedureCall, std::string(path));
-    }
     return backslash + 1;
 }
 
@@ -38,9 +37,8 @@ void addDropped(Program& program, ListItems& list, const std::string& path) {
 }
 
 Message emptyListMessage(PackageTool tool) {
-    if (tool == PackageTool::Compressor) {
+    if (tool == PackageTool::Compressor)
         return {"You Must Select Files to compress", "No files listed", Buttons::Ok, Icon::Stop};
-    }
     return {"You must first drag Unreal Compressed files to the window before decompressing",
             "No Files to compress", Buttons::Ok, Icon::Information};
 }

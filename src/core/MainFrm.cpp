@@ -117,7 +117,7 @@ void MainFrm::resizeEvent(QResizeEvent* event) {
     if (isVisible() && !std::exchange(sizeToCome_, false)) handleResize();
 }
 
-/// The limits and the picture go by the whole window, its frame included.
+// The limits and the picture go by the whole window, its frame included.
 void MainFrm::fitToFrame() {
     const QSize frame = frameSize() - size();
     setMinimumSize(pixels(smallestMainWindow.width) - frame.width(),
@@ -127,10 +127,10 @@ void MainFrm::fitToFrame() {
     ui_->Image1->resize(pixels(picture.width), pixels(picture.height));
 }
 
-/// The window's one Resize. It runs once for each new state, visible or not, and once for each size
-/// that the visible window gets while it stays in a state. The size that follows a new state
-/// belongs to it and is no Resize of its own; none follows when the window comes back to the state
-/// that it was minimised from, since it has kept that size.
+// The window's one Resize. It runs once for each new state, visible or not, and once for each size
+// that the visible window gets while it stays in a state. The size that follows a new state
+// belongs to it and is no Resize of its own; none follows when the window comes back to the state
+// that it was minimised from, since it has kept that size.
 void MainFrm::handleResize() {
     if (state() != windowstate::Minimised) sizedState_ = state();
     guarded(forms(), [this] { resizeMainWindow(program_, state()); });

@@ -32,13 +32,9 @@ std::vector<std::string> pieces(std::string_view list) {
     while (!list.empty()) {
         const std::size_t end = list.find(separator);
         names.emplace_back(list.substr(0, end));
-        if (end == std::string_view::npos) {
-            break;
-        }
+        if (end == std::string_view::npos) break;
         list.remove_prefix(end + 1);
-        if (list.empty()) {
-            names.emplace_back();
-        }
+        if (list.empty()) names.emplace_back();
     }
     return names;
 }
@@ -95,14 +91,10 @@ std::string clsINI::getSections(std::string_view INIFileLoc) {
     ensureIniFile();
     const std::string listing = profile_.getPrivateProfileString(
         std::nullopt, std::nullopt, DefaultReturnValue, listingSize, file);
-    if (listing.empty()) {
-        return {};
-    }
+    if (listing.empty()) return {};
     // Only this listing is trimmed and looked at once more; the one of keys is not.
     std::string_view names = trimSpaces(withoutLast(listing));
-    if (names.ends_with(separator)) {
-        names.remove_suffix(1);
-    }
+    if (names.ends_with(separator)) names.remove_suffix(1);
     return std::string(names);
 }
 
@@ -134,9 +126,7 @@ std::string clsINI::getKeyValue(std::string_view key, std::string_view defaultVa
     // Asked with an empty default, so that a key that is absent and one without a value look the
     // same: both get the default written into the file.
     std::string value = profile_.getPrivateProfileString(place, key, {}, valueSize, file);
-    if (!value.empty()) {
-        return value;
-    }
+    if (!value.empty()) return value;
     setKeyValue(key, fallback, place, file);
     return fallback;
 }
@@ -151,9 +141,7 @@ void clsINI::deleteAllSections(std::string_view INIFileLoc) {
     // The names come from the object's own file whatever file is given: of another one only the
     // sections go that stand in both.
     for (const std::string& name : pieces(getSections())) {
-        if (!name.empty()) {
-            deleteSection(name, file);
-        }
+        if (!name.empty()) deleteSection(name, file);
     }
 }
 

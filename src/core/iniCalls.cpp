@@ -9,7 +9,7 @@
 namespace tessaro {
 namespace {
 
-/// One option of the settings file that is kept as text.
+// One option of the settings file that is kept as text.
 struct TextOption {
     std::string_view section;
     std::string_view key;
@@ -50,21 +50,19 @@ constexpr TextOption afterRunCount[] = {
 
 template <class Options>
 void load(Program& program, const Options& options) {
-    for (const TextOption& option : options) {
+    for (const TextOption& option : options)
         option.field(program) =
             program.ini.getKeyValue(option.key, option.defaultText, option.section);
-    }
 }
 
 template <class Options>
 void save(Program& program, const Options& options) {
-    for (const TextOption& option : options) {
+    for (const TextOption& option : options)
         program.ini.setKeyValue(option.key, option.field(program), option.section);
-    }
 }
 
-/// The count is written back before anything else can go wrong. At 32767 it overflows, and so does
-/// every later start until the file is edited.
+// The count is written back before anything else can go wrong. At 32767 it overflows, and so does
+// every later start until the file is edited.
 void countRun(Program& program) {
     Int16& timesUsed = program.settings.TimesUsed;
     timesUsed = toInt16(program.ini.getKeyValue("TimesUsed", "1", "Misc"));
@@ -72,7 +70,7 @@ void countRun(Program& program) {
     program.ini.setKeyValue("TimesUsed", std::to_string(timesUsed), "Misc");
 }
 
-/// A text that is no number names no skin, as a number past the three does.
+// A text that is no number names no skin, as a number past the three does.
 bool namesSkin(std::string_view text, int number) {
     bool named = false;
     attempt([&] { named = equalsNumber(text, number); });

@@ -67,7 +67,7 @@ void Editor::confirmAndLoad(const std::string& path) {
     if (ConfirmEditorDiscard()) LoadEditorFile(path);
 }
 
-/// A file that cannot be read changes the names that are shown, and not the text.
+// A file that cannot be read changes the names that are shown, and not the text.
 void Editor::LoadEditorFile(const std::string& path) {
     title_ = FileNamePart(path);
     openedini_ = path;
@@ -90,7 +90,7 @@ void Editor::SaveEditorText() {
     write(openedini_);
 }
 
-/// What is shown as open stays as it was.
+// What is shown as open stays as it was.
 void Editor::SaveFileAs() {
     std::string chosen;
     attempt([&] {

@@ -35,7 +35,7 @@ inieditor& findfrm::editor() {
     return forms().get<inieditor>();
 }
 
-/// Out of the way of the hits, which are shown in the middle of the text.
+// Out of the way of the hits, which are shown in the middle of the text.
 void findfrm::moveToCornerOfEditor() {
     move(editor().geometry().bottomRight() - rect().bottomRight());
 }

@@ -9,14 +9,14 @@ namespace {
 
 using Lines = std::vector<std::u16string>;
 
-/// Lines `from` to `to` (not included) of a text.
+// Lines `from` to `to` (not included) of a text.
 struct Range {
     std::size_t from;
     std::size_t to;
     bool empty() const { return from == to; }
 };
 
-/// The same line in both texts.
+// The same line in both texts.
 struct Pair {
     std::size_t now;
     std::size_t before;

@@ -10,8 +10,8 @@ namespace {
 
 using Origins = std::vector<LineOrigin>;
 
-/// Touched lines of the box, `from` to `to` (not included), between two that are untouched, and the
-/// loaded lines that once stood between these.
+// Touched lines of the box, `from` to `to` (not included), between two that are untouched, and the
+// loaded lines that once stood between these.
 struct Gap {
     std::size_t from;
     std::size_t to;

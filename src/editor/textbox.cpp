@@ -42,7 +42,7 @@ void TextBox::tellChange(int position, int /*removed*/, int added) {
     Q_EMIT linesReplaced(first, before, now);
 }
 
-/// Tab is typed, so it takes Ctrl to leave the box by it.
+// Tab is typed, so it takes Ctrl to leave the box by it.
 void TextBox::keyPressEvent(QKeyEvent* event) {
     const bool forward = event->key() == Qt::Key_Tab;
     const bool leaves = event->modifiers().testFlag(Qt::ControlModifier) &&
@@ -51,7 +51,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         QPlainTextEdit::keyPressEvent(event);
 }
 
-/// Qt's own would make a blank of a no-break space.
+// Qt's own would make a blank of a no-break space.
 QMimeData* TextBox::createMimeDataFromSelection() const {
     auto* data = new QMimeData;
     data->setText(

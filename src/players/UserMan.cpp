@@ -77,7 +77,7 @@ void UserMan::ArchiveCurrentPlayer(ArchiveView& users) {
     LoadPlayerList(users.UserTable(), listFile());
 }
 
-/// Reading writes the defaults of missing keys into the game's file, so that the copy has them.
+// Reading writes the defaults of missing keys into the game's file, so that the copy has them.
 void UserMan::appendCurrentPlayer(const std::string& name) {
     clsINI& INI = program_.ini;
     program_.table.openAppend(listNumber, listFile());
@@ -131,7 +131,7 @@ void UserMan::LoadSelectedPlayer(ArchiveView& users) {
     users.enableSwap(true);
 }
 
-/// The game's file goes before the copy comes, so a copy that cannot be made leaves none.
+// The game's file goes before the copy comes, so a copy that cannot be made leaves none.
 void UserMan::swapIn(ArchiveView& users, const std::string& copy) {
     Pause(program_.events, secondsBeforeSwap);
     program_.events.pump();
@@ -142,7 +142,7 @@ void UserMan::swapIn(ArchiveView& users, const std::string& copy) {
     awaitNewName(users);
 }
 
-/// Never ends if the copy bears the name of the player before it.
+// Never ends if the copy bears the name of the player before it.
 void UserMan::awaitNewName(ArchiveView& users) {
     std::string& name = program_.settings.DefUser;
     program_.ini.inifile(userIni());

@@ -45,7 +45,7 @@ void ascii::showPicked() {
     ui_->Text2->setText(ui_->List1->picked());
 }
 
-/// All of the text is highlighted, for the box's own menu, which is where copying happens.
+// All of the text is highlighted, for the box's own menu, which is where copying happens.
 void ascii::addPicked() {
     showPicked();  // a key has not shown it yet
     ui_->Text1->setText(ui_->Text1->text() + ui_->List1->picked());

@@ -8,7 +8,7 @@
 namespace tessaro {
 namespace {
 
-/// What a screen reader says for a character that has no shape; empty for one that has.
+// What a screen reader says for a character that has no shape; empty for one that has.
 QString nameOf(QChar character) {
     if (character.category() == QChar::Other_Control) return QStringLiteral("control character");
     if (character.category() == QChar::Other_Format) return QStringLiteral("invisible character");
@@ -16,7 +16,7 @@ QString nameOf(QChar character) {
     return {};
 }
 
-/// Draws a text as it is: left to itself, a view breaks the line at a line feed.
+// Draws a text as it is: left to itself, a view breaks the line at a line feed.
 class OneLineDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

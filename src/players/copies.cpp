@@ -17,7 +17,7 @@ constexpr std::string_view prefix = "userini";
 constexpr std::string_view suffix = ".bak";
 constexpr std::size_t mostCopies = 32768;  // as many as the counter tells apart
 
-/// The number in a copy's name; nothing for any other name.
+// The number in a copy's name; nothing for any other name.
 std::optional<std::size_t> numberOf(std::string_view name) {
     if (name.size() <= prefix.size() + suffix.size()) return std::nullopt;
     const std::string_view digits =

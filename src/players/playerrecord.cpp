@@ -70,9 +70,8 @@ ListItems makeUserTable() {
 void addPlayer(ListItems& UserTable, PlayerRecord record) {
     const std::size_t row = UserTable.add(std::move(record.name));
     // From the last one on, so that the row's sub-items find their room at once.
-    for (std::size_t i = subItemCount; i > 0; --i) {
+    for (std::size_t i = subItemCount; i > 0; --i)
         UserTable.setSubItem(row, i, std::move(record.*fields[i]));
-    }
 }
 
 PlayerRecord playerAt(const ListItems& UserTable, std::size_t index) {

@@ -23,12 +23,10 @@ void UserManager::open() {
     INI.inifile(userMan_.userIni());
     program_.settings.DefUser = INI.getKeyValue("Name", "Player", "DefaultPlayer");
     view_.showCurrentName(program_.settings.DefUser);
-    if (DirExists(program_, userMan_.copiesFolder() + "\\") != Yes) {
+    if (DirExists(program_, userMan_.copiesFolder() + "\\") != Yes)
         program_.files.makeFolder(userMan_.copiesFolder());
-    }
-    if (program_.files.firstMatch(userMan_.listFile(), attributes::Normal).empty()) {
+    if (program_.files.firstMatch(userMan_.listFile(), attributes::Normal).empty())
         program_.files.touch(userMan_.listFile());
-    }
     userMan_.LoadPlayerList(view_.UserTable(), userMan_.listFile());
 }
 
@@ -36,7 +34,7 @@ void UserManager::save() {
     userMan_.SavePlayerList(view_.UserTable());
 }
 
-/// Says so of a player who was in the archive before, too.
+// Says so of a player who was in the archive before, too.
 void UserManager::saveCurrent() {
     userMan_.OfferSaveCurrentPlayer(view_);
     if (UserMan::IsNewPlayerName(view_) == Yes) return;
@@ -64,8 +62,8 @@ void UserManager::setAsCurrent() {
     if (anyHighlighted()) swap();
 }
 
-/// The row is looked up anew: where the offer is taken, the rows are rebuilt, and the first of them
-/// is swapped in and not the one that was asked about.
+// The row is looked up anew: where the offer is taken, the rows are rebuilt, and the first of them
+// is swapped in and not the one that was asked about.
 void UserManager::swap() {
     userMan_.OfferSaveCurrentPlayer(view_);
     view_.setBusyPointer(true);

@@ -43,7 +43,7 @@ void username::Load() {
     ui_->ok->setEnabled(false);
 }
 
-/// Always from the name as it was, never on top of another style.
+// Always from the name as it was, never on top of another style.
 void username::applyStyle(int style) {
     ui_->Text1->setText(ui_->Text2->text());
     ui_->Text1->setText(toQt(StylizeName(fromQt(ui_->Text1->text()), style)));

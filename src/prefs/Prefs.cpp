@@ -15,7 +15,7 @@ namespace {
 
 constexpr int mostDigitsOfDays = 3;
 
-/// 0 clear, 1 ticked, 2 greyed; what else a settings file may hold counts as off.
+// 0 clear, 1 ticked, 2 greyed; what else a settings file may hold counts as off.
 void setCheckValue(QCheckBox& box, int value) {
     if (value == 2) return box.setCheckState(Qt::PartiallyChecked);
     box.setChecked(value == 1);
@@ -80,8 +80,8 @@ void Prefs::setupChecks() {
             [this] { ui_->Text2->setMaxLength(mostDigitsOfDays); });
 }
 
-/// These two count as changed when the focus leaves them, not at the click, and not when it goes
-/// straight to the close box.
+// These two count as changed when the focus leaves them, not at the click, and not when it goes
+// straight to the close box.
 void Prefs::followFocus(const QWidget* left, const QWidget* entered) {
     if (left != ui_->Check1 && left != ui_->Check2) return;
     if (isAncestorOf(entered) && entered != CommandX) rules_.changed();

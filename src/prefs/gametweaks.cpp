@@ -15,7 +15,7 @@ constexpr std::string_view logoMap = "entry.unr";
 constexpr std::string_view flybyMapRead = "CityIntro.unr";
 constexpr std::string_view flybyMapWritten = "Cityintro.unr";
 
-/// Any map but the two known ones is a custom one.
+// Any map but the two known ones is a custom one.
 StartMap startMapOf(std::string_view map) {
     if (sameName(map, flybyMapRead)) return StartMap::Flyby;
     if (sameName(map, logoMap)) return StartMap::BlackLogo;
@@ -28,7 +28,7 @@ void readGameIni(clsINI& INI, GameTweaks& tweaks) {
     tweaks.purgeDays = INI.getKeyValue("PurgeCacheDays", "30", "Core.System");
 }
 
-/// A false value does not clear the box.
+// A false value does not clear the box.
 void readBossSkins(clsINI& INI, GameTweaks& tweaks) {
     if (toBoolean(INI.getKeyValue("HasBeatenGame", "False", "Botpack.Ladder")))
         tweaks.bossSkins = 1;
@@ -41,7 +41,7 @@ void writeGameIni(clsINI& INI, const GameTweaks& tweaks) {
     if (tweaks.startMap == StartMap::Flyby) INI.setKeyValue("LocalMap", flybyMapWritten, "URL");
 }
 
-/// A greyed box writes neither value.
+// A greyed box writes neither value.
 void writeBossSkins(clsINI& INI, const GameTweaks& tweaks) {
     if (tweaks.bossSkins == 1) INI.setKeyValue("HasBeatenGame", "True", "Botpack.Ladder");
     if (tweaks.bossSkins == 0) INI.setKeyValue("HasBeatenGame", "False", "Botpack.Ladder");

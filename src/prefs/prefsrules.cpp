@@ -31,7 +31,7 @@ void PrefsRules::enableIfValid() {
     if (ValidatePaths(program_, view_.folder()) == Yes) view_.enableSaving();
 }
 
-/// Whether opening goes on.
+// Whether opening goes on.
 bool PrefsRules::loadTweaks() {
     GameTweaks tweaks = view_.tweaks();
     const TweaksRead read = LoadGameTweaks(program_, INI, tweaks);
@@ -84,7 +84,7 @@ void PrefsRules::ok() {
     view_.closeDialog();
 }
 
-/// The sound at the end of the tweaks goes by the setting from before the dialog's changes.
+// The sound at the end of the tweaks goes by the setting from before the dialog's changes.
 void PrefsRules::save() {
     attempt([&] { SaveGameTweaks(program_, INI, view_.tweaks()); });
     attempt([&] { PrefsToSettings(program_, view_.options()); });

@@ -13,16 +13,16 @@ bool confirms(Program& program, const char* text, const char* title) {
     return program.dialogs.message({text, title, Buttons::YesNo, Icon::Question}) == Answer::Yes;
 }
 
-/// A link that is still there could not be deleted, or leads nowhere and was not listed. Writing
-/// would follow it out of the folder.
+// A link that is still there could not be deleted, or leads nowhere and was not listed. Writing
+// would follow it out of the folder.
 void dropLink(Program& program, const std::string& file) {
     Host& host = program.files.host();
     const HostPath path = program.paths.toWrite(file);
     if (host.target(path) != path) host.removeFile(path);
 }
 
-/// The game finds an index without entries. Each statement stands alone: where the number is in use
-/// the line goes into whatever is open under it, and that file is closed.
+// The game finds an index without entries. Each statement stands alone: where the number is in use
+// the line goes into whatever is open under it, and that file is closed.
 void writeEmptyIndex(Program& program) {
     const std::string index = cacheIndexIn(program.gamePaths.UTCachePath);
     attempt([&] {
@@ -64,12 +64,10 @@ void clearTempFiles(Program& program) {
 
 void ClearCacheAndTempFiles(Program& program) {
     if (confirms(program, "Do you wish to reset your cache and clear its contents?",
-                 "Clear All Cache Files?")) {
+                 "Clear All Cache Files?"))
         clearCache(program);
-    }
-    if (confirms(program, "Do you wish to clear all UT Temp files?", "Remove Temp files?")) {
+    if (confirms(program, "Do you wish to clear all UT Temp files?", "Remove Temp files?"))
         clearTempFiles(program);
-    }
 }
 
 }  // namespace tessaro

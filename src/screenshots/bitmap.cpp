@@ -20,15 +20,15 @@ bool canBeShown(const QSize& size) {
            width * height <= mostPixels;
 }
 
-/// The size that the header claims. The rows may stand from top to bottom, which it says by a
-/// negative height.
+// The size that the header claims. The rows may stand from top to bottom, which it says by a
+// negative height.
 QSize claimedSize(const QImageReader& reader) {
     const QSize size = reader.size();
     return {size.width(), std::abs(size.height())};
 }
 
-/// Reads into an image that is all black: Qt leaves the rows of which there are no bytes as they
-/// are.
+// Reads into an image that is all black: Qt leaves the rows of which there are no bytes as they
+// are.
 bool readInto(QImage& image, QImageReader& reader) {
     const QSize size = claimedSize(reader);
     if (!canBeShown(size)) return false;

@@ -17,7 +17,7 @@ void ImageBox::setStretch(bool stretch) {
     update();
 }
 
-/// On a screen of 150 % the size may come out broken; the last column is kept then, not cut.
+// On a screen of 150 % the size may come out broken; the last column is kept then, not cut.
 void ImageBox::takeOnSize() {
     const QSizeF size = QSizeF(pixmap(Qt::ReturnByValue).size()) / devicePixelRatioF();
     resize(int(std::ceil(size.width())), int(std::ceil(size.height())));

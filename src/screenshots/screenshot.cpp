@@ -93,8 +93,8 @@ void screenshot::mouseReleaseEvent(QMouseEvent*) {
     ui_->List1->setFocus();
 }
 
-/// A form that the viewer hides and shows again at once stays on the screen meanwhile, unpainted:
-/// taken down, it would lose its place, and the keys pressed in that moment would go elsewhere.
+// A form that the viewer hides and shows again at once stays on the screen meanwhile, unpainted:
+// taken down, it would lose its place, and the keys pressed in that moment would go elsewhere.
 void screenshot::run(const std::function<void()>& command) {
     hidden_ = false;
     const auto hideIfLeftHidden = qScopeGuard([this] {
@@ -154,7 +154,7 @@ void screenshot::setFormSize(const TwipsSize& size) {
     setFixedSize(inPixels({size.width - windowFrame.width, size.height - windowFrame.height}));
 }
 
-/// What the real frame takes of the screen is not there for the picture.
+// What the real frame takes of the screen is not there for the picture.
 TwipsSize screenshot::screenSize() {
     return withFrame(inTwips(screen()->size() - (frameSize() - size())));
 }

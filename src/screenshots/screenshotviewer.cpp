@@ -11,7 +11,7 @@ Int16 wholeTwips(double twips) {
     return std::llround(twips);
 }
 
-/// In 16 bits, as `full` is.
+// In 16 bits, as `full` is.
 Int16 less(Int16 full, double frame) {
     full += -static_cast<int>(frame);
     return full;
@@ -68,8 +68,8 @@ void ScreenshotViewer::ShowSelectedPicture(bool loaded) {
     view_.showForm();
 }
 
-/// Names the picture, and cuts the window to it. A stretched picture keeps its size, and so the
-/// window keeps its own.
+// Names the picture, and cuts the window to it. A stretched picture keeps its size, and so the
+// window keeps its own.
 void ScreenshotViewer::fitForm() {
     view_.setCaption("Now Viewing: " + selectedPath());
     const TwipsSize picture = view_.pictureSize();
@@ -82,8 +82,8 @@ void ScreenshotViewer::select(int index) {
     if (index != ShotList::noSelection) followSelection();
 }
 
-/// The list reports a change twice: a click, which loads the picture and ignores failures, and,
-/// since it is one row high, a scroll, which shows it. What the click has loaded is not read twice.
+// The list reports a change twice: a click, which loads the picture and ignores failures, and,
+// since it is one row high, a scroll, which shows it. What the click has loaded is not read twice.
 void ScreenshotViewer::followSelection() {
     const bool loaded = LoadSelectedPicture();
     ShowSelectedPicture(loaded);
@@ -115,7 +115,7 @@ void ScreenshotViewer::enterFullScreen() {
     fullscreen_ = 1;
 }
 
-/// Back to the size that the window had, also if another picture is shown by now.
+// Back to the size that the window had, also if another picture is shown by now.
 void ScreenshotViewer::leaveFullScreen() {
     view_.setFormSize({double(oldx_), double(oldy_)});
     view_.setPictureSize(

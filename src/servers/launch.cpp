@@ -10,7 +10,7 @@ namespace {
 
 constexpr double minimisingSeconds = 0.2;
 
-/// Unlike `FileExists` this does not see what is hidden.
+// Unlike `FileExists` this does not see what is hidden.
 bool isListed(Program& program, const std::string& file) {
     std::string name;
     attempt([&] { name = program.files.firstMatch(file, attributes::Normal); });

@@ -66,7 +66,7 @@ void ServerManager::importFavorites() {
     ImportFavorites(program_, ListView1);
 }
 
-/// Sorted once and then no more: rows added later go to the end, and the order is saved as it is.
+// Sorted once and then no more: rows added later go to the end, and the order is saved as it is.
 void ServerManager::sortBy(int column) {
     const int order = ListView1.sortOrder() == descending ? ascending : descending;
     ListView1.sort(column - 1, order);

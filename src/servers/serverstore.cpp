@@ -11,10 +11,10 @@ namespace {
 
 constexpr std::string_view favoritesSection = "UBrowser.UBrowserFavoritesFact";
 
-/// The first three fields of a line, as far as it has them; what follows is ignored.
+// The first three fields of a line, as far as it has them; what follows is ignored.
 using Fields = std::array<std::optional<std::string_view>, 3>;
 
-/// An empty line has no field at all, not an empty one.
+// An empty line has no field at all, not an empty one.
 Fields fieldsOf(std::string_view line) {
     Fields fields;
     if (line.empty()) return fields;
@@ -43,7 +43,7 @@ void makeMissingFile(Program& program, const std::string& file) {
     program.table.close(number);
 }
 
-/// What a line lacks stays as the line before it had it: an empty line shows a server twice.
+// What a line lacks stays as the line before it had it: an empty line shows a server twice.
 void takeFields(std::string_view line, ServerRecord& server) {
     const Fields fields = fieldsOf(line);
     if (fields[0]) server.ServerName = *fields[0];

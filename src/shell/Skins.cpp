@@ -16,17 +16,17 @@ namespace {
 
 using Names = std::vector<const char*>;
 
-/// One skin: names of its pictures on `Skinz`, and its colours.
+// One skin: names of its pictures on `Skinz`, and its colours.
 struct Skin {
     int number;
     const char* sideBar;
     const char* topBar;
     const char* bottomBar;
-    double plateShift;  ///< twips that the plate stands right of the middle
+    double plateShift;  // twips that the plate stands right of the middle
     QColor buttons;
     QColor fields;
     QColor title;
-    const Names& fieldNames;  ///< in the order in which they are coloured
+    const Names& fieldNames;  // in the order in which they are coloured
 };
 
 const Names allFields{"ListView1", "ListView2", "List1", "Dir1",  "Drive1", "Text1", "Text2",
@@ -53,8 +53,8 @@ void setPicture(QWidget& form, const char* name, const QPixmap& picture) {
     if (auto* label = control<QLabel>(form, name)) label->setPixmap(picture);
 }
 
-/// The program's style would paint a paler colour than it is given, a style sheet paints that one.
-/// Focus and press have to be told by the sheet then.
+// The program's style would paint a paler colour than it is given, a style sheet paints that one.
+// Focus and press have to be told by the sheet then.
 QString buttonSheet(const QColor& colour) {
     return QStringLiteral(
                "QPushButton { background-color: %1; border: 1px solid black; border-radius: 2px }"

@@ -19,7 +19,7 @@ constexpr int wantedMilliseconds = 1;
 // The steps are made for desktops that serve a timer 64 times a second at most.
 constexpr int servedMilliseconds = 16;
 
-/// How much larger than `room` a text in that font is; 1 if it fits.
+// How much larger than `room` a text in that font is; 1 if it fits.
 double zoomFor(const QString& text, const QFont& font, const QSize& room) {
     QTextDocument document;
     document.setDefaultFont(font);

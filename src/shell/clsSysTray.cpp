@@ -17,7 +17,7 @@ namespace {
 constexpr auto hookName = "pichook";
 constexpr std::size_t mostTipCharacters = 64;
 
-/// Qt numbers its pictures in the upper half of the key; the lower one tells of changes.
+// Qt numbers its pictures in the upper half of the key; the lower one tells of changes.
 std::int32_t handleOf(const QPixmap& picture) {
     return static_cast<std::int32_t>(picture.cacheKey() >> 32);
 }

@@ -35,7 +35,7 @@ void setLinkColours(QTextBrowser& browser) {
         QStringLiteral("a:link { color: %1 }").arg(link.name()));
 }
 
-/// The address inside the program's resources, or an empty one if there is no such page.
+// The address inside the program's resources, or an empty one if there is no such page.
 QUrl resource(const std::optional<std::string>& file) {
     const QString path = QStringLiteral("/help/") + toQt(file.value_or(""));
     return QFileInfo(QLatin1Char(':') + path).isFile() ? QUrl(QStringLiteral("qrc:") + path)

@@ -9,7 +9,7 @@ namespace {
 
 const std::string guid = "25378BF44584EF794EAC6E86872140C4";
 
-/// The extension length that a row of names leaves, the first one starting with none.
+// The extension length that a row of names leaves, the first one starting with none.
 std::size_t extLenAfter(std::initializer_list<const char*> names) {
     std::size_t ExtLen = 0;
     for (const char* name : names) getext(name, ExtLen);

@@ -13,7 +13,7 @@ namespace {
 const Message closingQuestion{"Extraction Complete, Do you wish to close this window?",
                               "Map Extractions Completed", Buttons::YesNo, Icon::None};
 
-/// Shows what a form would show, and presses buttons when told to.
+// Shows what a form would show, and presses buttons when told to.
 class Watcher : public ExtractionObserver {
   public:
     std::map<ExtractionBox, std::string> shown;
@@ -52,7 +52,7 @@ class ExtractionRun : public ::testing::Test {
         game.world.write(cache + "\\" + guidOf(number) + ".uxx", bytes);
     }
     void index(const std::string& text) { game.world.write(cache + "\\cache.ini", text); }
-    /// An index of present files under these names, each 1234 bytes of its own letter.
+    // An index of present files under these names, each 1234 bytes of its own letter.
     void indexOf(std::initializer_list<const char*> names) {
         std::string text = "[Cache]\r\n";
         int number = 0;
@@ -67,7 +67,7 @@ class ExtractionRun : public ::testing::Test {
         extraction.run(cache);
     }
     std::string shown(ExtractionBox box) { return watcher.shown[box]; }
-    /// The rows as "name|type|size".
+    // The rows as "name|type|size".
     std::vector<std::string> rows() {
         std::vector<std::string> texts;
         for (std::size_t i = 1; i <= extraction.ListView1.count(); ++i) {
@@ -464,9 +464,8 @@ TEST_F(ExtractionRun, MakesTheFiveFoldersButNoneBesideOneOfOtherCase) {
 
 TEST_F(ExtractionRun, MakesNoTwinsWhereNamesCannotBeListed) {
     indexOf({"a.u"});
-    for (const char* folder : {"Maps", "System", "Textures", "Sounds", "Music"}) {
+    for (const char* folder : {"Maps", "System", "Textures", "Sounds", "Music"})
         game.world.makeFolder(std::string("C:\\UT\\") + folder);
-    }
     const Texts before = game.world.names("C:\\UT");
     game.world.host.refuse(Call::List, errors::TooManyFiles, "/UT");
     EXPECT_EQ(errorOf([&] { extraction.run(cache); }), errors::TooManyFiles);
@@ -504,9 +503,8 @@ TEST_F(ExtractionRun, TrueNameThatLeadsOutOfTheDestinationEndsTheRun) {
     for (const char* name : {R"(..\..\Startup\x.u)", R"(../../Startup/x.u)", R"(..\..\x.u)",
                              R"(..\..\UTother\x.u)", R"(sub\..\..\..\Startup\x.u)"}) {
         SCOPED_TRACE(name);
-        for (const char* file : {"C:\\Startup\\x.u", "C:\\x.u", "C:\\UTother\\x.u"}) {
+        for (const char* file : {"C:\\Startup\\x.u", "C:\\x.u", "C:\\UTother\\x.u"})
             game.world.write(file, "theirs");
-        }
         indexOf({"a.u", name, "b.u"});
         for (watcher.overwrite = false;; watcher.overwrite = true) {
             game.dialogs.messages.clear();

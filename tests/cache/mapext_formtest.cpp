@@ -30,7 +30,7 @@ class WizardForm : public GameFormsTest {
         program_.settings.Sounds = "0";
         program_.settings.Skin = "1";
     }
-    /// An index of three maps that are there and one that is gone.
+    // An index of three maps that are there and one that is gone.
     void makeCache() {
         std::string index = "[Cache]\r\n";
         for (const char letter : std::string("ABC")) {
@@ -55,7 +55,7 @@ class WizardForm : public GameFormsTest {
     }
     bool visible(const char* name) { return the<QWidget>(name).isVisible(); }
     void type(const char* box, const std::string& text) { the<QLineEdit>(box).setText(toQt(text)); }
-    /// To step three, with the current installation as destination.
+    // To step three, with the current installation as destination.
     void goToStepThree() {
         makeCache();
         shown();
@@ -471,7 +471,7 @@ bool showsText(const QWidget& widget) {
             qobject_cast<const QLabel*>(&widget) != nullptr);
 }
 
-/// No control on show needs more room than it has.
+// No control on show needs more room than it has.
 void expectWhole(const QWidget& form, int points) {
     for (const QWidget* widget : form.findChildren<QWidget*>()) {
         if (!showsText(*widget)) continue;

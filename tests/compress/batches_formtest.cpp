@@ -30,7 +30,7 @@ class BatchForms : public test::FormsTest {
     test::Packer packer_{world_};
     test::TestWorld& disk_ = world_.world;
 
-    /// The form of a batch over what was dropped on its list form.
+    // The form of a batch over what was dropped on its list form.
     template <class BatchForm, class ListForm>
     BatchForm& over(const std::vector<std::string>& files) {
         std::vector<HostPath> hostFiles;
@@ -52,7 +52,7 @@ class BatchForms : public test::FormsTest {
         world_.dialogs.answer(answer);
         control<QPushButton>(form, "Command2").click();
     }
-    /// Something to be looked at while the packer runs.
+    // Something to be looked at while the packer runs.
     void duringRun(std::function<void()> look) {
         world_.processes.child = [look, tool = world_.processes.child](const std::string& line) {
             tool(line);

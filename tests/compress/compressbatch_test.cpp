@@ -26,7 +26,7 @@ Message missing(const std::string& file) {
 
 class CompressBatchTest : public test::BatchTest<CompressBatch> {
   protected:
-    /// A batch of files in C:\Maps that hold their own names.
+    // A batch of files in C:\Maps that hold their own names.
     void list(const std::vector<std::string>& names) {
         for (const std::string& name : names) {
             disk_.write("C:\\Maps\\" + name, name);

@@ -26,7 +26,7 @@ Message missing(const std::string& name) {
             Icon::Stop};
 }
 
-/// Loses a file when a folder is looked at, once the file is there.
+// Loses a file when a folder is looked at, once the file is there.
 class LosingHost : public test::FailingHost {
   public:
     LosingHost(Host& real, HostPath folder, HostPath file)
@@ -44,7 +44,7 @@ class LosingHost : public test::FailingHost {
 
 class DecompressBatchTest : public test::BatchTest<DecompressBatch> {
   protected:
-    /// A batch of compressed packages in C:\Packed that hold their own file names.
+    // A batch of compressed packages in C:\Packed that hold their own file names.
     void list(const std::vector<std::string>& names) {
         for (const std::string& name : names) {
             packer_.writeUz("C:\\Packed\\" + name, name);

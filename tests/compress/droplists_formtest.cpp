@@ -287,7 +287,7 @@ TEST_F(DropForms, BothFormsAreDressedInTheSkin) {
         EXPECT_EQ(list(*form).palette().color(QPalette::Base), QColor(192, 0, 0));
 }
 
-/// The forms beside a main window that stands.
+// The forms beside a main window that stands.
 class DropFormsWithMainWindow : public DropForms {
   protected:
     DropFormsWithMainWindow() {

@@ -23,7 +23,7 @@ using ::testing::Field;
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
 
-/// The batches with real processes of the stand-in for the game's packer.
+// The batches with real processes of the stand-in for the game's packer.
 class RealUcc : public ::testing::Test {
   protected:
     RealUcc() {
@@ -43,7 +43,7 @@ class RealUcc : public ::testing::Test {
     CompressBatch compression_{world_.program, form_, Ucc(world_.program, test::anotherSystem)};
     DecompressBatch decompression_{world_.program, form_, Ucc(world_.program, test::anotherSystem)};
 
-    /// Packages to compress, each with bytes of its own.
+    // Packages to compress, each with bytes of its own.
     void listMaps(const std::vector<std::string>& names) {
         for (const std::string& name : names) {
             disk_.write("C:\\Maps\\" + name, bytesOf(name));
@@ -66,14 +66,14 @@ class RealUcc : public ::testing::Test {
         world_.dialogs.answer(Answer::No);
         batch.run();
     }
-    /// Compresses in good order, so that there is something to decompress.
+    // Compresses in good order, so that there is something to decompress.
     void pack(const std::vector<std::string>& names) {
         listMaps(names);
         run(compression_);
         world_.dialogs.messages.clear();
         form_.seen.clear();
     }
-    /// What every batch over these maps has to leave alone.
+    // What every batch over these maps has to leave alone.
     void expectSourcesUntouched(const std::vector<std::string>& names) {
         for (const std::string& name : names)
             EXPECT_EQ(disk_.read("C:\\Maps\\" + name), bytesOf(name));
@@ -148,7 +148,7 @@ TEST_F(RealUcc, NamesThatLookLikePatternsTakeNoOtherFileWithThem) {
     }
 }
 
-/// Ways of the packer to leave nothing where it should.
+// Ways of the packer to leave nothing where it should.
 class UccThatFails : public RealUcc, public ::testing::WithParamInterface<const char*> {
   protected:
     void misbehave() { manner_.emplace("TESSARO_UCC", GetParam()); }
@@ -194,7 +194,7 @@ TEST_P(UccThatFails, IsReportedForEachCompressedFileAndTheSourcesStay) {
 INSTANTIATE_TEST_SUITE_P(Manners, UccThatFails, ::testing::Values("silent", "crash", "othername"),
                          [](const auto& manner) { return std::string(manner.param); });
 
-/// Ways of the packer that only look like trouble.
+// Ways of the packer that only look like trouble.
 class UccWithManners : public RealUcc, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(UccWithManners, DoesItsWorkInBothDirections) {

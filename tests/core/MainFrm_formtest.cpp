@@ -22,7 +22,7 @@ using Names = std::vector<std::string>;
 
 class MainWindowForm : public GameFormsTest {
   protected:
-    /// Applies a state as the desktop would and lets the window hear of it.
+    // Applies a state as the desktop would and lets the window hear of it.
     void setState(MainFrm& window, int state) {
         window.setState(state);
         serveEvents();

@@ -366,9 +366,7 @@ TEST_F(INI, RenamingASectionCutsLongValues) {
 TEST_F(INI, RenamingASectionLosesKeysBeyondTheListing) {
     const std::string tail(99, 'k');
     std::string moved = "[T]\n";
-    for (char letter = 'a'; letter < 'k'; ++letter) {
-        moved += letter + tail + "=v\n";
-    }
+    for (char letter = 'a'; letter < 'k'; ++letter) moved += letter + tail + "=v\n";
     file("[S]\n" + moved.substr(4) + "k" + tail + "=v\nl" + tail + "=v\n");
     ini.renameSection("T", "S");
     // Ten whole names fill 1010 characters; the eleventh comes cut, and as such has no value.

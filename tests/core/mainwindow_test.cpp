@@ -10,7 +10,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// A main window that keeps a record of what it was asked for.
+// A main window that keeps a record of what it was asked for.
 class RecordingWindow : public MainWindow {
   public:
     explicit RecordingWindow(TestProgram& game) : game_(game) {}

@@ -9,7 +9,7 @@
 namespace tessaro::test {
 namespace {
 
-/// Remembers the names whose status it was asked for.
+// Remembers the names whose status it was asked for.
 class AskedHost : public FailingHost {
   public:
     using FailingHost::FailingHost;
@@ -26,7 +26,7 @@ class Routines : public ::testing::Test {
     void makeGame(std::initializer_list<const char*> folders) {
         for (const char* folder : folders) game.world.makeFolder(std::string("C:\\UT\\") + folder);
     }
-    /// The names that the check asks a host for.
+    // The names that the check asks a host for.
     std::set<std::string> namesAskedByTheCheck() {
         AskedHost host(game.world.host);
         Program asking(host, game.world.drives,

@@ -157,7 +157,7 @@ TEST_F(EditorTest, ClosingAnUntitledTextIsContentWithAFileChosenBefore) {
     EXPECT_TRUE(editor_.mayClose());
 }
 
-/// Refusals, which stop root too.
+// Refusals, which stop root too.
 class RefusedSave : public EditorTest {
   protected:
     RefusedSave() {

@@ -13,7 +13,7 @@ using namespace std::string_literals;
 using test::BoxLines;
 using test::PlainBox;
 
-/// A file in a box.
+// A file in a box.
 class EditedFile {
   public:
     explicit EditedFile(const std::string& bytes) : text_(bytes) {
@@ -233,7 +233,7 @@ TEST(FileText, TheSearchedTextHasOneCharacterForWhatIsNone) {
               "a\xEF\xBF\xBDz");
 }
 
-/// Splits as the box does, with each line's end.
+// Splits as the box does, with each line's end.
 std::vector<std::string> wholeLines(const std::string& text) {
     std::vector<std::string> lines(1);
     for (std::size_t i = 0; i < text.size(); ++i) {

@@ -27,7 +27,7 @@ class SearchBox : public GameFormsTest {
     QAction& menuItem(const char* name) {
         return control<QAction>(forms_.get<inieditorpopup>(), name);
     }
-    /// Opens the search box from the menu and works in it, until it is closed.
+    // Opens the search box from the menu and works in it, until it is closed.
     void search(const std::function<void()>& work) {
         const WhenItComes box(
             [this] { return forms_.loaded<findfrm>() && forms_.get<findfrm>().isVisible(); },
@@ -48,7 +48,7 @@ class SearchBox : public GameFormsTest {
     }
     void click() { QTest::mouseClick(&button("Command1"), Qt::LeftButton); }
     TextBox& text() { return control<TextBox>(forms_.get<inieditor>(), "Text1"); }
-    /// Line (from 0), column (from 0) and text of the selection.
+    // Line (from 0), column (from 0) and text of the selection.
     std::string selection() {
         const QTextCursor cursor = text().textCursor();
         QTextCursor start(text().document());

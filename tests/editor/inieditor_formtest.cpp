@@ -39,7 +39,7 @@ class EditorForm : public GameFormsTest {
     void choose(const char* item) {
         control<QAction>(forms_.get<inieditorpopup>(), item).trigger();
     }
-    /// The menu that is open, or null.
+    // The menu that is open, or null.
     static QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
     void close() {
         form().window().close();

@@ -7,14 +7,14 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// Each character stands for a line.
+// Each character stands for a line.
 std::vector<std::u16string> lines(std::u16string_view letters) {
     std::vector<std::u16string> each;
     for (const char16_t letter : letters) each.emplace_back(1, letter);
     return each;
 }
 
-/// The line that each line of `now` was, as its letter in `0123...`, `-` for none.
+// The line that each line of `now` was, as its letter in `0123...`, `-` for none.
 std::string matched(std::u16string_view now, std::u16string_view before) {
     std::string found;
     for (const std::size_t line : matchLines(lines(now), lines(before)))

@@ -12,7 +12,7 @@ namespace {
 
 using test::errorOf;
 
-/// A selection, as text.
+// A selection, as text.
 std::string place(std::size_t start, std::size_t length) {
     return std::to_string(start) + "+" + std::to_string(length);
 }

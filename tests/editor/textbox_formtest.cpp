@@ -14,7 +14,7 @@
 namespace tessaro {
 namespace {
 
-/// A file in a real text box.
+// A file in a real text box.
 class TextBoxTest : public testing::Test {
   protected:
     TextBoxTest() {
@@ -36,7 +36,7 @@ class TextBoxTest : public testing::Test {
         QTest::keyClick(&box_, key, modifiers);
     }
     void type(const char* text) { QTest::keyClicks(&box_, QLatin1String(text)); }
-    /// Puts the cursor at a column of a line, both from 0; with `select` the selection's end.
+    // Puts the cursor at a column of a line, both from 0; with `select` the selection's end.
     void go(int line, int column, bool select = false) {
         QTextCursor cursor = box_.textCursor();
         cursor.setPosition(box_.document()->findBlockByNumber(line).position() + column,

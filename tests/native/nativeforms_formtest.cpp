@@ -29,7 +29,7 @@ class NativeForms : public FormsTest {
     NativeGameFolder game_{world_.world};
 };
 
-/// The names that a folder list shows below the open folder.
+// The names that a folder list shows below the open folder.
 std::vector<std::string> namesIn(const FolderList& list) {
     std::vector<std::string> names;
     const QTreeWidgetItem* open = list.currentItem();

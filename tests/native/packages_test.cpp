@@ -16,7 +16,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
 
-/// Lets an extraction run to its end.
+// Lets an extraction run to its end.
 class Unstopped : public ExtractionObserver {
   public:
     void show(ExtractionBox, const std::string&) override {}
@@ -34,7 +34,7 @@ class NativeExtraction : public NativeSampleTest {
         world.dialogs.answer(Answer::No);
         extraction.run(program.gamePaths.UTCachePath);
     }
-    /// Where a file of that kind is to be found afterwards. Nothing for one of no known kind.
+    // Where a file of that kind is to be found afterwards. Nothing for one of no known kind.
     HostPath destination(const std::string& name) const {
         if (name.ends_with(".u")) return written() / "System" / name;
         for (const auto& [end, folder] : kinds) {

@@ -18,7 +18,7 @@ class NativePlayers : public NativeSampleTest {
         sample::writePlayers(world.world.at("C:\\Tessaro"));
         manager.open();
     }
-    /// Sets a player of the archive as the current one, and lets the one before go.
+    // Sets a player of the archive as the current one, and lets the one before go.
     void setAsCurrent(std::size_t row) {
         users.rows.pick(row);
         world.dialogs.answer(Answer::Yes);
@@ -72,7 +72,7 @@ TEST_F(NativePlayers, TheGameForLinuxIsStarted) {
               (programs() / ("ut-bin" + nativeNames().suffix)).native() + "\n");
 }
 
-/// Reads the pictures' bytes and shows none.
+// Reads the pictures' bytes and shows none.
 class PictureReader : public RecordingScreen {
   public:
     explicit PictureReader(Files& files) : RecordingScreen(files), files_(files) {}

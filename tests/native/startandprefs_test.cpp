@@ -45,7 +45,7 @@ class NativePreferences : public NativeSampleTest {
     static void replace(std::string& text, std::string_view old, std::string_view changed) {
         text.replace(text.find(old), old.size(), changed);
     }
-    /// What is in the sample's INI.
+    // What is in the sample's INI.
     std::string before = read(programs() / "UnrealTournament.ini");
 
     RecordingView view;

@@ -27,7 +27,7 @@ class UsersForm : public PlayersFormsTest {
     }
 };
 
-/// A button with its caption and tooltip.
+// A button with its caption and tooltip.
 struct Text {
     const char* name;
     const char* text;

@@ -228,10 +228,9 @@ TEST_F(Archive, AFolderOfThatNameIsNoCopy) {
 TEST_F(Archive, TheCounterOverflowsPast32767) {
     // Links to one file are made faster than files.
     disk.write(copyOf("userini0.bak"), "");
-    for (int i = 1; i < 32767; ++i) {
+    for (int i = 1; i < 32767; ++i)
         fs::create_hard_link(disk.at(copyOf("userini0.bak")),
                              disk.at(copyOf("userini" + std::to_string(i) + ".bak")));
-    }
     EXPECT_EQ(nextName(), copyOf("userini32767.bak"));
     disk.write(copyOf("userini32767.bak"), "");
     EXPECT_EQ(errorOf([&] { userMan.NextBackupName(); }), errors::Overflow);

@@ -27,7 +27,7 @@ class Chart : public GameFormsTest {
     QString preview() { return box("Text2").text(); }
     QString spelled() { return box("Text1").text(); }
 
-    /// The row of a code; that of code 30 is missing.
+    // The row of a code; that of code 30 is missing.
     static int rowOf(int code) { return code < 30 ? code : code - 1; }
     QPoint placeOf(int code) {
         QListWidgetItem* item = list().item(rowOf(code));

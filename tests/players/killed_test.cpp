@@ -22,8 +22,8 @@ class Killed : public ArchiveFixture {
         users.rows.pick(2);
     }
 
-    /// Does the work in a process that is killed before the change of that number, counted from
-    /// 1; false if the work has fewer changes, and is done.
+    // Does the work in a process that is killed before the change of that number, counted from
+    // 1; false if the work has fewer changes, and is done.
     bool killedBefore(int change, const std::function<void()>& work) {
         const pid_t child = ::fork();
         if (child == 0) {
@@ -38,8 +38,8 @@ class Killed : public ArchiveFixture {
         EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
         return WIFSIGNALED(status);
     }
-    /// Kills the work before each of its changes in turn, and looks at the disk, which is put back
-    /// each time. Gives how many changes there are.
+    // Kills the work before each of its changes in turn, and looks at the disk, which is put back
+    // each time. Gives how many changes there are.
     int killEverywhere(const std::function<void()>& work, const std::function<void()>& look) {
         const HostPath kept = disk.folder() / "kept";
         fs::copy(disk.driveC(), kept, fs::copy_options::recursive);

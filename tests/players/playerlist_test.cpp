@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 
 class PlayerList : public ArchiveFixture {
   protected:
-    /// Loads a list with these lines over copies userini0.bak to userini2.bak.
+    // Loads a list with these lines over copies userini0.bak to userini2.bak.
     std::vector<std::string> rowsFrom(const std::string& text) {
         for (const char* file : {"userini0.bak", "userini1.bak", "userini2.bak"})
             disk.write(copyOf(file), profileOf(file));

@@ -12,7 +12,7 @@ using ::testing::ElementsAre;
 
 class NameForm : public PlayersFormsTest {
   protected:
-    /// Opens the editor on the first of these players and acts in it. Gives what it is closed by.
+    // Opens the editor on the first of these players and acts in it. Gives what it is closed by.
     void edit(const std::vector<std::string>& players, const std::function<void()>& act) {
         archive(players);
         openUsers();

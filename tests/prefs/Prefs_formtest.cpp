@@ -15,7 +15,7 @@ const Message closeQuestion{"These settings are not valid. Close Tessaro?", "Pre
 
 class PrefsForm : public PrefsFormFixture {
   protected:
-    /// Whether closing asks to save. The dialog stays open if so.
+    // Whether closing asks to save. The dialog stays open if so.
     bool closingAsks() {
         const std::size_t before = dialogs().messages.size();
         dialogs().answer(Answer::Cancel);
@@ -176,9 +176,8 @@ TEST_F(PrefsForm, ReopeningAfterCancelShowsTheStoredValuesAgain) {
 
 TEST_F(PrefsForm, EverythingThatIsSetIsSaved) {
     openOnGame();
-    for (const char* name : {"Check1", "Check2", "Check3", "Check4", "Option4", "Option6"}) {
+    for (const char* name : {"Check1", "Check2", "Check3", "Check4", "Option4", "Option6"})
         click(name);
-    }
     type("Text2", "14");
     type("Text3", "DM-Own.unr");
     click("Command6");

@@ -8,7 +8,7 @@ namespace {
 
 class BrowseTest : public PreferencesFixture {
   protected:
-    /// Opens on a folder that is no game, with the browse at opening given up.
+    // Opens on a folder that is no game, with the browse at opening given up.
     void openWithoutGame() {
         test.dialogs.pick("");
         test.dialogs.answer(Answer::Cancel);
@@ -24,9 +24,8 @@ TEST_F(BrowseTest, AGoodFolderIsShownReadAndTakenOverInMemory) {
     const std::string before = settingsFile();
     test.world.write("C:\\Other\\ut\\system\\unrealtournament.ini",
                      "[URL]\r\nLocalMap=entry.unr\r\n[Core.System]\r\nPurgeCacheDays=4\r\n");
-    for (const char* folder : {"sounds", "maps", "textures", "cache"}) {
+    for (const char* folder : {"sounds", "maps", "textures", "cache"})
         test.world.makeFolder(std::string("C:\\Other\\ut\\") + folder);
-    }
     view.folderSelected = false;
     test.dialogs.pick("C:\\Other\\ut");
     prefs.browse();
@@ -65,9 +64,8 @@ TEST_F(BrowseTest, TheOptionsShownGoIntoMemoryWithTheFolder) {
 TEST_F(BrowseTest, FoldersInOtherLetterCaseWithBlanksAndForeignLettersAreAccepted) {
     openWithoutGame();
     const std::string folder = "C:\\Mes jeux\\Tournoi irréel Ω";
-    for (const char* name : {"Sounds", "MAPS", "Textures", "System", "Cache"}) {
+    for (const char* name : {"Sounds", "MAPS", "Textures", "System", "Cache"})
         test.world.makeFolder(folder + "\\" + name);
-    }
     test.world.write(folder + "\\System\\UnrealTournament.ini", "[URL]\r\nLocalMap=a.unr\r\n");
     test.dialogs.pick("C:\\mes jeux\\tournoi irréel Ω");
     prefs.browse();
@@ -105,9 +103,8 @@ TEST_F(BrowseTest, WrongFolderThenCancelledBrowserThenRightFolder) {
 }
 
 TEST_F(BrowseTest, ACancelledBrowserIsRefusedEvenIfTheDriveLooksLikeAGame) {
-    for (const char* folder : {"sounds", "maps", "textures", "system", "cache"}) {
+    for (const char* folder : {"sounds", "maps", "textures", "system", "cache"})
         test.world.makeFolder(std::string("C:\\") + folder);
-    }
     openWithoutGame();
     EXPECT_EQ(view.controls.gameFolder, "C:\\UT");
 }

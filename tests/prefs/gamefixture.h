@@ -12,9 +12,8 @@ namespace tessaro::test {
 
 /// Makes the game's five folders and its two files below `root`.
 inline void makeGame(TestWorld& world, const std::string& root) {
-    for (const char* folder : {"sounds", "maps", "textures", "system", "cache"}) {
+    for (const char* folder : {"sounds", "maps", "textures", "system", "cache"})
         world.makeFolder(root + "\\" + folder);
-    }
     world.write(root + "\\system\\unrealtournament.ini",
                 "[URL]\r\nLocalMap=CityIntro.unr\r\n[Core.System]\r\nPurgeCacheDays=30\r\n");
     world.write(root + "\\system\\user.ini", "[Botpack.Ladder]\r\nHasBeatenGame=False\r\n");

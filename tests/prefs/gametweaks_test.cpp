@@ -12,7 +12,7 @@ class GameTweaksTest : public GameFixture {
         test.world.write(gameIni, game);
         test.world.write(userIni, user);
     }
-    /// What a load shows of a file whose start-up map is `map`.
+    // What a load shows of a file whose start-up map is `map`.
     GameTweaks readMap(const std::string& map) {
         writeFiles("[URL]\r\nLocalMap=" + map + "\r\n", "");
         GameTweaks read;

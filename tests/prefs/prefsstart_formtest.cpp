@@ -21,14 +21,14 @@ class PrefsStart : public PrefsFormFixture {
     void start() {
         guarded(forms_, [this] { forms_.show<MainFrm>(); });
     }
-    /// A first start: no settings file, and the game, if anywhere, not where it is looked for.
+    // A first start: no settings file, and the game, if anywhere, not where it is looked for.
     void removeSettings() { std::filesystem::remove(world().at(settingsFile)); }
     void useMenu(const char* item) {
         forms_.get<MainFrm>().findChild<QAction*>(QLatin1String(item))->trigger();
     }
     bool prefsVisible() { return loaded() != nullptr && loaded()->isVisible(); }
     Names sounds() { return world_.sounds.names; }
-    /// Steps of the user, each taken once the dialog stands.
+    // Steps of the user, each taken once the dialog stands.
     WhenItComes whenPrefsComes(std::function<void()> act) {
         return {[this] { return prefsVisible(); }, std::move(act)};
     }

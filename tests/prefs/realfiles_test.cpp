@@ -21,7 +21,7 @@ std::string replaced(std::string text, std::string_view what, const std::string&
     return text;
 }
 
-/// Every second hundred of lines ends as on Unix.
+// Every second hundred of lines ends as on Unix.
 std::string withMixedLineEnds(const std::string& text) {
     std::string mixed;
     std::size_t line = 0;
@@ -32,8 +32,8 @@ std::string withMixedLineEnds(const std::string& text) {
     return mixed;
 }
 
-/// The game's file with mixed line ends, letters of the code page, a key without a value, a line
-/// without `=`, repeated keys and second sections of the names that are written to.
+// The game's file with mixed line ends, letters of the code page, a key without a value, a line
+// without `=`, repeated keys and second sections of the names that are written to.
 std::string untidyGameIni() {
     std::string text = withMixedLineEnds(sample::unrealTournamentIni());
     replaceOnce(text, "LocalMap=", "; f\xFCr sp\xE4ter \x80\r\nEmpty=\r\nlocalmap = ");
@@ -50,7 +50,7 @@ class RealFilesTest : public PreferencesFixture {
         test.world.write(gameIni, game);
         test.world.write(userIni, user);
     }
-    /// Opens the dialog, lets the user change something, applies and closes, ten times.
+    // Opens the dialog, lets the user change something, applies and closes, ten times.
     void openAndApplyTenTimes(const std::function<void(GameTweaks&)>& change) {
         for (int round = 0; round < 10; ++round) {
             RecordingView dialog;

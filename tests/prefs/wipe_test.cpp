@@ -59,9 +59,8 @@ TEST_F(WipeTest, AsksAboutTheTemporaryFilesAlsoAfterANo) {
 }
 
 TEST_F(WipeTest, TakesTheTemporaryFilesFromTheGamesOwnFolder) {
-    for (const char* name : {"cache1.tmp", "CACHE.TMP", "cache.tmp.bak", "mycache.tmp", "1.tmp"}) {
+    for (const char* name : {"cache1.tmp", "CACHE.TMP", "cache.tmp.bak", "mycache.tmp", "1.tmp"})
         test.world.write(std::string("C:\\UT\\") + name, "x");
-    }
     write("cache2.tmp", "x");
     wipe(Answer::No, Answer::Yes);
     EXPECT_EQ(test.world.names("C:\\UT"),

@@ -25,12 +25,11 @@ std::string extensionOf(const std::string& name) {
     return name.substr(name.rfind('.'));
 }
 
-/// The GUID of a package's header, as the game prints it.
+// The GUID of a package's header, as the game prints it.
 std::string headerGuid(const std::string& bytes) {
     Guid guid;
-    for (std::size_t i = 0; i < guid.parts.size(); ++i) {
+    for (std::size_t i = 0; i < guid.parts.size(); ++i)
         guid.parts.at(i) = numberAt(bytes, 36 + 4 * i, 4);
-    }
     return guid.text();
 }
 
@@ -103,9 +102,7 @@ TEST(SampleCache, HasAwkwardTrueNames) {
 
 TEST(SampleCache, OneTrueNameStandsUnderTwoGuids) {
     std::map<std::string, std::set<std::string>> guids;
-    for (const CacheFile& line : lines()) {
-        guids[line.trueName].insert(line.guid);
-    }
+    for (const CacheFile& line : lines()) guids[line.trueName].insert(line.guid);
     EXPECT_EQ(guids.at("TarnCoreIII.u").size(), 2U);
     EXPECT_EQ(guids.size(), 79U);
 }

@@ -48,9 +48,8 @@ inline std::string bytesOf(const std::filesystem::path& file) {
 /// The number of `count` bytes at `offset`, least significant first.
 inline std::uint32_t numberAt(const std::string& bytes, std::size_t offset, std::size_t count) {
     std::uint32_t number = 0;
-    for (std::size_t i = count; i > 0; --i) {
+    for (std::size_t i = count; i > 0; --i)
         number = number << 8U | static_cast<unsigned char>(bytes.at(offset + i - 1));
-    }
     return number;
 }
 
@@ -58,9 +57,8 @@ inline std::uint32_t numberAt(const std::string& bytes, std::size_t offset, std:
 inline std::map<std::filesystem::path, std::string> contentsOf(const std::filesystem::path& root) {
     std::map<std::filesystem::path, std::string> contents;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
-        if (entry.is_regular_file()) {
+        if (entry.is_regular_file())
             contents[entry.path().lexically_relative(root)] = bytesOf(entry.path());
-        }
     }
     return contents;
 }

@@ -12,11 +12,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// FNV-1a, 64 bits, continued from `sum`.
+// FNV-1a, 64 bits, continued from `sum`.
 std::uint64_t checksum(const std::string& bytes, std::uint64_t sum) {
-    for (const char byte : bytes) {
+    for (const char byte : bytes)
         sum = (sum ^ static_cast<unsigned char>(byte)) * 1'099'511'628'211U;
-    }
     return sum;
 }
 
@@ -41,19 +40,16 @@ TEST(SampleGame, AnotherSeedGivesOtherBytes) {
 TEST(SampleGame, BytesAreThoseEveryCompilerGives) {
     std::uint64_t sum = 14'695'981'039'346'656'037U;
     for (const auto& [path, bytes] : contentsOf(sharedSample().root())) {
-        if (path.extension() == ".uxx" || path.extension() == ".usa" ||
-            path.extension() == ".bmp") {
+        if (path.extension() == ".uxx" || path.extension() == ".usa" || path.extension() == ".bmp")
             sum = checksum(bytes, sum);
-        }
     }
     EXPECT_EQ(sum, 1'018'073'922'094'545'037U);
 }
 
 TEST(SampleGame, TotalIsCountedAndStaysUnderFortyMegabytes) {
     std::uintmax_t total = 0;
-    for (const auto& entry : fs::recursive_directory_iterator(sharedSample().root())) {
+    for (const auto& entry : fs::recursive_directory_iterator(sharedSample().root()))
         total += entry.is_regular_file() ? entry.file_size() : 0;
-    }
     EXPECT_EQ(sharedSample().layout().totalBytes, total);
     EXPECT_LT(total, 40'000'000U);
     EXPECT_GT(total, 20'000'000U);
@@ -61,9 +57,8 @@ TEST(SampleGame, TotalIsCountedAndStaysUnderFortyMegabytes) {
 
 TEST(SampleGame, HasTheFoldersOfTheGame) {
     std::set<std::string> folders;
-    for (const auto& entry : fs::directory_iterator(sharedSample().root())) {
+    for (const auto& entry : fs::directory_iterator(sharedSample().root()))
         folders.insert(entry.path().filename().string());
-    }
     const std::set<std::string> expected{
         "Cache",           "Help", "Logs", "Manuals", "Maps",   "Music",
         "NetGamesUSA.com", "Save", "Web",  "Sounds",  "System", "SystemLocalized",

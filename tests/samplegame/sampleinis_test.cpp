@@ -43,7 +43,7 @@ std::ptrdiff_t countOf(const std::vector<std::string>& lines, const std::string&
     return std::count(lines.begin(), lines.end(), line);
 }
 
-/// The lines from a header to the next blank line, first section of that name.
+// The lines from a header to the next blank line, first section of that name.
 std::vector<std::string> section(const std::string& text, const std::string& header,
                                  std::size_t from = 0) {
     const std::size_t start = text.find(header + "\r\n", from);

@@ -12,9 +12,7 @@ namespace {
 
 TEST(SampleRng, NumbersAreThoseOfTheStandardEngine) {
     Rng rng(5489);
-    for (int i = 0; i < 9'999; ++i) {
-        rng.next();
-    }
+    for (int i = 0; i < 9'999; ++i) rng.next();
     EXPECT_EQ(rng.next(), 4'123'659'995U);  // what the C++ standard says of mt19937
 }
 

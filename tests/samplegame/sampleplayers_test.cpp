@@ -11,7 +11,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// A program beside which the archive lies.
+// A program beside which the archive lies.
 class SamplePlayers : public ::testing::Test {
   protected:
     SamplePlayers() {
@@ -23,9 +23,8 @@ class SamplePlayers : public ::testing::Test {
         ListItems rows = makeUserTable();
         userMan.LoadPlayerList(rows, userMan.listFile());
         std::vector<std::string> names;
-        for (std::size_t i = 1; i <= rows.count(); ++i) {
+        for (std::size_t i = 1; i <= rows.count(); ++i)
             names.push_back(rows.item(i).text + " " + playerAt(rows, i).UTTeam);
-        }
         return names;
     }
 

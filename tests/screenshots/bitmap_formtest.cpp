@@ -28,7 +28,7 @@ class Bitmaps : public ::testing::Test {
     int errorOfReading(const std::string& bytes) {
         return errorOf([&] { read(bytes); });
     }
-    /// Colours from the top left pixel on, row by row.
+    // Colours from the top left pixel on, row by row.
     static std::string pixelsOf(const QImage& image) {
         std::string pixels;
         for (int y = 0; y < image.height(); ++y)

@@ -28,7 +28,7 @@ TEST_F(ScreenshotForm, ShowsEveryPixelOfThePictureAsItIs) {
         for (int x = 0; x < 60; ++x) ASSERT_EQ(shown.pixelColor(x, y), QColor(x, y, 1));
 }
 
-/// Whether this very test passes in a process of its own on a screen of 150 %.
+// Whether this very test passes in a process of its own on a screen of 150 %.
 bool passesOnAFinerScreen() {
     const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
     QProcess child;
@@ -252,7 +252,7 @@ TEST_F(ScreenshotForm, WearsNoSkin) {
 
 class ShotsOnTheFullScreen : public ShotFormTest {
   protected:
-    /// The window with its frame covers the whole screen.
+    // The window with its frame covers the whole screen.
     void expectFullScreen() {
         EXPECT_EQ(form().frameGeometry(), form().screen()->geometry());
         EXPECT_EQ(picture().geometry(), form().rect());

@@ -5,7 +5,7 @@ namespace {
 
 class ShotsThatCannotBeRead : public ShotFormTest {
   protected:
-    /// The second of three is damaged.
+    // The second of three is damaged.
     void openWithDamaged(const std::string& bytes) {
         take({"Shot0001.bmp", "Shot0002.bmp", "Shot0003.bmp"});
         disk_.write(shot("Shot0002.bmp"), bytes);

@@ -14,7 +14,7 @@ const Message notFound{
     "UnrealTournament executable not found. Please check all paths and try again",
     "Error Starting: UnrealTournament", Buttons::Ok, Icon::Stop};
 
-/// The list beside a main window that stands.
+// The list beside a main window that stands.
 class PlayingOnAServer : public ServerForm {
   protected:
     PlayingOnAServer() {
@@ -122,7 +122,7 @@ TEST_F(PlayingOnAServer, AListThatCannotBeSavedEndsTheProgramBeforeTheGameStarts
     EXPECT_TRUE(end_.ended());
 }
 
-/// What ends the program with the standard report.
+// What ends the program with the standard report.
 class FailingServerForm : public ServerForm {
   protected:
     void expectEndBy(const std::string& report) {

@@ -18,7 +18,7 @@ using Names = std::vector<std::string>;
 const Message removeQuestion{"Are you sure you want to remove the selected server?",
                              "Remove Server?", Buttons::YesNo, Icon::None};
 
-/// A form that saves the list when it closes, as the real one does.
+// A form that saves the list when it closes, as the real one does.
 class RecordingView : public ServerManagerView {
   public:
     explicit RecordingView(Names& log) : log_(log) {}
@@ -303,7 +303,7 @@ TEST_F(ServerManaging, TheEditCommandsFailOnAnEmptyList) {
     EXPECT_THAT(world_.dialogs.inputs, IsEmpty());
 }
 
-/// An item of the popup as "name: caption".
+// An item of the popup as "name: caption".
 std::string told(const PopupItem& item) {
     return std::string(item.name) + ": " + std::string(item.caption);
 }

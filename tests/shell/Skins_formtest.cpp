@@ -103,8 +103,8 @@ TEST_F(SkinTest, TheFirstSkinLeavesTheSecondListAsItWas) {
     EXPECT_EQ(ground(form.ui.ListView2), QColor(192, 0, 0));
 }
 
-/// Every control that a skin may colour, each at first of a colour that no skin has, and which of
-/// them are of the skin's colour once they are dressed.
+// Every control that a skin may colour, each at first of a colour that no skin has, and which of
+// them are of the skin's colour once they are dressed.
 QStringList colouredBy(Program& program, Forms& forms, const char* skin, const QColor& colour) {
     QWidget form;
     for (const char* name : {"ListView1", "ListView2", "List1", "Dir1", "Drive1", "Text1", "Text2",

@@ -24,13 +24,13 @@ class AboutForm : public GameFormsTest {
     }
     QTextEdit& text() { return control<QTextEdit>(forms_.get<about>(), "Text1"); }
     static QTimer& timer(about& form) { return *form.findChild<QTimer*>(QStringLiteral("Timer1")); }
-    /// Lets no tick come by itself.
+    // Lets no tick come by itself.
     static void stopped(about& form) { timer(form).stop(); }
     void tick(int times) {
         for (int i = 0; i < times; ++i)
             QMetaObject::invokeMethod(&timer(forms_.get<about>()), "timeout");
     }
-    /// Chooses a menu item and does something once the box is there.
+    // Chooses a menu item and does something once the box is there.
     void choose(const char* item, const std::function<void(about&)>& act) {
         const WhenItComes box(
             [&] { return forms_.loaded<about>() && forms_.get<about>().isVisible(); },
@@ -153,7 +153,7 @@ TEST_F(AboutForm, TheFrameHasTheGroundOfTheTextInEachSkin) {
     }
 }
 
-/// Whether every line of the credits stands on one line of the box and within it.
+// Whether every line of the credits stands on one line of the box and within it.
 void expectRoomFor(QTextEdit& text) {
     for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next())
         EXPECT_LE(block.layout()->lineCount(), 1) << block.text().toStdString();

@@ -20,7 +20,7 @@ using ::testing::ElementsAre;
 
 using Names = std::vector<std::string>;
 
-/// Writes down the events of a tray object in the order in which they come.
+// Writes down the events of a tray object in the order in which they come.
 class Events : public QObject {
   public:
     explicit Events(clsSysTray& tray) {
@@ -46,14 +46,14 @@ class Tray : public GameFormsTest {
         return *window_->gSysTray;
     }
     QLabel* hook() { return window_->findChild<QLabel*>(QStringLiteral("pichook")); }
-    /// Moves the mouse on a box, as the tray does to tell of the mouse on the icon.
+    // Moves the mouse on a box, as the tray does to tell of the mouse on the icon.
     static void move(QWidget& box, double x) {
         QMouseEvent event(QEvent::MouseMove, QPointF(x, 0), QPointF(x, 0), Qt::NoButton,
                           Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&box, &event);
     }
     void send(int message) { move(*hook(), message); }
-    /// What the tray was told last.
+    // What the tray was told last.
     const NotifyRecord& record() { return desktop_.notes.back().second; }
     std::vector<TrayAction> actions() {
         std::vector<TrayAction> all;
@@ -61,7 +61,7 @@ class Tray : public GameFormsTest {
         return all;
     }
     QMenu* popup() { return window_->findChild<QMenu*>(QStringLiteral("mnumypopup")); }
-    /// Does something once the pop-up menu is open, then closes it.
+    // Does something once the pop-up menu is open, then closes it.
     std::unique_ptr<WhenItComes> inPopup(std::function<void()> act) {
         return std::make_unique<WhenItComes>([this] { return popup()->isVisible(); },
                                              [this, act = std::move(act)] {

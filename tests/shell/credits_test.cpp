@@ -14,7 +14,7 @@ using ::testing::StartsWith;
 
 using Lines = std::vector<std::string>;
 
-/// The lines, each of which has a line end.
+// The lines, each of which has a line end.
 Lines creditLines() {
     std::istringstream text(credits());
     Lines lines;

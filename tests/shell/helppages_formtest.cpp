@@ -41,7 +41,7 @@ QByteArray bytesOf(const char* file) {
     return stored.readAll();
 }
 
-/// Text and attributes of all elements of one kind, as the page is written.
+// Text and attributes of all elements of one kind, as the page is written.
 struct Element {
     std::string text;
     QXmlStreamAttributes attributes;
@@ -62,7 +62,7 @@ std::vector<Element> elements(const char* file, const char* kind) {
     return found;
 }
 
-/// The values of an attribute of all elements of one kind that have it.
+// The values of an attribute of all elements of one kind that have it.
 Texts attributes(const char* file, const char* kind, const char* name) {
     Texts values;
     for (const Element& element : elements(file, kind))
@@ -71,7 +71,7 @@ Texts attributes(const char* file, const char* kind, const char* name) {
     return values;
 }
 
-/// What stands in a first cell of a row as `<td><code>...</code></td>`.
+// What stands in a first cell of a row as `<td><code>...</code></td>`.
 Texts commandsInTables(const char* file) {
     QXmlStreamReader reader(bytesOf(file));
     Texts commands;
@@ -89,7 +89,7 @@ Texts commandsInTables(const char* file) {
     return commands;
 }
 
-/// One line of the list of commands: page, kind, command.
+// One line of the list of commands: page, kind, command.
 std::vector<QStringList> commandList() {
     std::vector<QStringList> rows;
     for (const QString& line : QString::fromUtf8(bytesOf("commands.txt")).split(QLatin1Char('\n')))
@@ -105,7 +105,7 @@ Texts listedCommands(const char* file) {
     return commands;
 }
 
-/// The names of all places in a page that a link can jump to, as the browser sees them.
+// The names of all places in a page that a link can jump to, as the browser sees them.
 Texts targetsShown(const QTextDocument& document) {
     Texts targets;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())

@@ -29,7 +29,7 @@ class MenusForm : public GameFormsTest {
     QMenu* menu(const char* name) {
         return forms_.get<MainFrm>().findChild<QMenu*>(QLatin1String(name));
     }
-    /// Captions of a menu's items, separators as "-".
+    // Captions of a menu's items, separators as "-".
     QStringList captions(const QList<QAction*>& actions) {
         QStringList all;
         for (const QAction* action : actions)
@@ -119,7 +119,7 @@ TEST_F(MenusForm, NoItemIsLeftWithoutACommand) {
     }
 }
 
-/// What an item opens, and whether it blocks the main window.
+// What an item opens, and whether it blocks the main window.
 struct Opened {
     const char* item;
     Form* (*form)(Forms&);

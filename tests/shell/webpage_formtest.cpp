@@ -30,7 +30,7 @@ class HelpForm : public GameFormsTest {
     int scrolled() { return browser().verticalScrollBar()->value(); }
     QString titleOfPage() { return browser().documentTitle(); }
 
-    /// Chooses a menu item and does something once the page is there.
+    // Chooses a menu item and does something once the page is there.
     void choose(const char* item, const std::function<void(webpage&)>& act) {
         const WhenItComes page(
             [&] { return forms_.loaded<webpage>() && forms_.get<webpage>().isVisible(); },
@@ -139,7 +139,7 @@ TEST_F(HelpForm, ThePlateAloneMovesIt) {
     EXPECT_TRUE(moves());
 }
 
-/// Relative luminance, from 0 to 1.
+// Relative luminance, from 0 to 1.
 double luminance(const QColor& colour) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
@@ -148,7 +148,7 @@ double luminance(const QColor& colour) {
            0.0722 * linear(colour.blueF());
 }
 
-/// How well letters stand out, from 1 to 21; 4.5 is held to be readable.
+// How well letters stand out, from 1 to 21; 4.5 is held to be readable.
 double contrast(const QColor& letters, const QColor& ground) {
     const auto [darker, lighter] = std::minmax(luminance(letters), luminance(ground));
     return (lighter + 0.05) / (darker + 0.05);

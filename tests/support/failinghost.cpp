@@ -65,12 +65,10 @@ int FailingHost::count(Call call) const {
 void FailingHost::pass(Call call, const HostPath& path) {
     calls_.push_back(call);
     const auto found = refusals_.find(call);
-    if (found != refusals_.end() && contains(path, found->second.part)) {
+    if (found != refusals_.end() && contains(path, found->second.part))
         throw RunTimeError(found->second.number, path.string());
-    }
-    if (vanished_ && path.native().starts_with(*vanished_)) {
+    if (vanished_ && path.native().starts_with(*vanished_))
         throw RunTimeError(errors::PathNotFound, path.string());
-    }
 }
 
 std::optional<HostStatus> FailingHost::status(const HostPath& path) {

@@ -17,9 +17,8 @@ std::string stripped(const std::string& text, const char* what = " \t\v\r\n") {
 std::string lower(std::string text) {
     for (const auto& [upper, small] :
          {std::pair{"A", "a"}, {"B", "b"}, {"É", "é"}, {"Ã", "ã"}, {"Ł", "ł"}, {"Ж", "ж"}}) {
-        for (auto at = text.find(upper); at != std::string::npos; at = text.find(upper)) {
+        for (auto at = text.find(upper); at != std::string::npos; at = text.find(upper))
             text.replace(at, std::string(upper).size(), small);
-        }
     }
     return text;
 }
@@ -74,9 +73,8 @@ PlainProfile::PlainProfile(const std::string& text, Encoding encoding) : encodin
     for (std::size_t i = 0; i < text.size(); ++i) {
         line += text[i];
         const bool inside = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
-        if (!inside && (text[i] == '\r' || text[i] == '\n')) {
+        if (!inside && (text[i] == '\r' || text[i] == '\n'))
             lines_.push_back(std::exchange(line, {}));
-        }
     }
     if (!line.empty()) lines_.push_back(line);
     const auto end = lines_.empty() ? std::string::npos : lines_.front().find_first_of("\r\n");
@@ -140,9 +138,8 @@ bool PlainProfile::holds(const std::string& section, const std::string& key,
 }
 
 void PlainProfile::addLine(std::size_t at, const std::string& line) {
-    if (at > 0 && lines_[at - 1].find_last_of("\r\n") == std::string::npos) {
+    if (at > 0 && lines_[at - 1].find_last_of("\r\n") == std::string::npos)
         lines_[at - 1] += lineEnd_;
-    }
     lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(at), encoded(line) + lineEnd_);
 }
 
@@ -159,9 +156,8 @@ void PlainProfile::write(const std::string& section, const std::string& key,
         return;
     }
     std::size_t last = *header;
-    for (std::size_t at = *header + 1; at < sectionEnd(*header); ++at) {
+    for (std::size_t at = *header + 1; at < sectionEnd(*header); ++at)
         last = isKey(lines_[at]) ? at : last;
-    }
     addLine(last + 1, key + "=" + value);
 }
 

@@ -7,7 +7,7 @@
 namespace tessaro::test {
 namespace {
 
-/// The next line of a script, or `otherwise` and a failure.
+// The next line of a script, or `otherwise` and a failure.
 template <class Line>
 Line next(std::deque<Line>& script, const std::string& box, Line otherwise) {
     if (script.empty()) {

@@ -81,9 +81,8 @@ void TestWorld::makeFolder(std::string_view gamePath) const {
 
 std::vector<std::string> TestWorld::namesIn(const HostPath& folder) {
     std::vector<std::string> found;
-    for (const auto& entry : fs::directory_iterator(folder)) {
+    for (const auto& entry : fs::directory_iterator(folder))
         found.push_back(entry.path().filename().string());
-    }
     std::sort(found.begin(), found.end());
     return found;
 }

@@ -29,7 +29,7 @@ class NativeUcc : public ::testing::Test {
         NativeGameFolder::write(map, content);
     }
 
-    /// Starts it from a folder that has nothing to do with it, and gives its exit code.
+    // Starts it from a folder that has nothing to do with it, and gives its exit code.
     int run(const std::string& arguments) {
         const std::string line = "cd / && '" + program.native() + "' " + arguments + " >'" +
                                  (world.folder() / "out").native() + "' 2>'" +

@@ -79,9 +79,7 @@ void paintPillar(Picture& picture, int horizon, Rng& rng) {
     const Colour lit = darkColour(rng, 160);
     for (int x = 0; x < width; ++x) {
         const Colour shade = mix(lit, Colour{}, x, width);
-        for (int y = horizon / 4; y < foot; ++y) {
-            picture.at(left + x, y) = shade;
-        }
+        for (int y = horizon / 4; y < foot; ++y) picture.at(left + x, y) = shade;
     }
 }
 
@@ -94,9 +92,8 @@ void paintLamp(Picture& picture, int horizon, Rng& rng) {
         for (int x = std::max(0, middleX - radius); x < std::min(picture.width, middleX + radius);
              ++x) {
             const int away = (x - middleX) * (x - middleX) + (y - middleY) * (y - middleY);
-            if (away < radius * radius) {
+            if (away < radius * radius)
                 picture.at(x, y) = mix(glow, picture.at(x, y), away, radius * radius);
-            }
         }
     }
 }
@@ -108,9 +105,7 @@ Picture paint(int width, int height, Rng& rng) {
     paintSky(picture, horizon, rng);
     paintLamp(picture, horizon, rng);
     paintFloor(picture, horizon, rng);
-    for (int pillars = pick(rng, 4, 7); pillars > 0; --pillars) {
-        paintPillar(picture, horizon, rng);
-    }
+    for (int pillars = pick(rng, 4, 7); pillars > 0; --pillars) paintPillar(picture, horizon, rng);
     return picture;
 }
 
@@ -147,18 +142,15 @@ void appendRow(std::string& bytes, Picture& picture, int y, std::size_t rowBytes
 }  // namespace
 
 std::string screenshotBmp(int width, int height, Rng& rng) {
-    if (width < 1 || height < 1) {
+    if (width < 1 || height < 1)
         throw std::invalid_argument("a picture needs a width and a height");
-    }
     Picture picture = paint(width, height, rng);
     const std::size_t rowBytes = (static_cast<std::size_t>(width) * 3 + 3) / 4 * 4;
     const std::size_t pixelBytes = rowBytes * static_cast<std::size_t>(height);
     std::string bytes;
     bytes.reserve(fileHeaderBytes + infoHeaderBytes + pixelBytes);
     appendHeaders(bytes, picture, static_cast<std::uint32_t>(pixelBytes));
-    for (int y = height - 1; y >= 0; --y) {
-        appendRow(bytes, picture, y, rowBytes);
-    }
+    for (int y = height - 1; y >= 0; --y) appendRow(bytes, picture, y, rowBytes);
     return bytes;
 }
 

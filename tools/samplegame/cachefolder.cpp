@@ -15,9 +15,7 @@ constexpr int unlistedCount = 3;
 // Small ones are many, large ones few, as among real downloads.
 std::uint32_t packageSize(Rng& rng) {
     const std::uint32_t kind = rng.below(100);
-    if (kind < 45) {
-        return rng.between(2'048, 40'000);
-    }
+    if (kind < 45) return rng.between(2'048, 40'000);
     return kind < 85 ? rng.between(40'000, 300'000) : rng.between(300'000, 1'000'000);
 }
 
@@ -32,9 +30,8 @@ std::string writePackage(Tree& tree, Rng& rng, std::uint32_t size, std::uint32_t
 std::vector<CachedName> shuffledNames(Rng& rng) {
     const auto names = cachedNames();
     std::vector<CachedName> shuffled(names.begin(), names.end());
-    for (std::size_t left = shuffled.size(); left > 1; --left) {
+    for (std::size_t left = shuffled.size(); left > 1; --left)
         std::swap(shuffled[left - 1], shuffled[rng.below(static_cast<std::uint32_t>(left))]);
-    }
     return shuffled;
 }
 

@@ -20,9 +20,7 @@ bool isContinuation(char byte) {
 // U+00A0 to U+00FF are two bytes in UTF-8: C2 or C3, and a continuation. C2 80 to C2 9F would be
 // the control characters that the code page has other letters for.
 bool isLatinLetter(std::string_view rest) {
-    if (rest.size() < 2 || !isContinuation(rest[1])) {
-        return false;
-    }
+    if (rest.size() < 2 || !isContinuation(rest[1])) return false;
     return rest[0] == '\xC3' || (rest[0] == '\xC2' && static_cast<unsigned char>(rest[1]) >= 0xA0U);
 }
 
@@ -54,9 +52,8 @@ std::string toCodePage(std::string_view utf8) {
 
 std::string cacheIndex(const std::vector<CacheFile>& lines) {
     std::string text = "[Cache]\r\n";
-    for (const CacheFile& line : lines) {
+    for (const CacheFile& line : lines)
         text += line.guid + '=' + toCodePage(line.trueName) + "\r\n";
-    }
     return text;
 }
 

@@ -35,9 +35,7 @@ void appendLine(std::string& out, std::string_view line) {
     line.remove_prefix(1);
     const int first = takeNumber(line);
     const int last = takeNumber(line);
-    for (int number = first; number <= last; ++number) {
-        appendNumbered(out, line, number);
-    }
+    for (int number = first; number <= last; ++number) appendNumbered(out, line, number);
 }
 
 std::string expanded(std::string_view text) {

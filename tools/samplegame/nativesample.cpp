@@ -52,9 +52,8 @@ void moveInis(const fs::path& system, const fs::path& programs) {
         if (programs == system) continue;
         fs::copy_file(system / name, programs / name, fs::copy_options::overwrite_existing);
     }
-    for (const char* name : {"UnrealTournament.ini", "User.ini"}) {
+    for (const char* name : {"UnrealTournament.ini", "User.ini"})
         moveText(system / name, programs / name);
-    }
     fs::copy_file(programs / "UnrealTournament.ini", programs / "UnrealTournament.ini.tmp",
                   fs::copy_options::overwrite_existing);
 }
@@ -63,9 +62,8 @@ void moveInis(const fs::path& system, const fs::path& programs) {
 void changeLibraries(const fs::path& system, const fs::path& programs) {
     for (const std::string_view name : programNames()) fs::remove(system / pathFromUtf8(name));
     Tree tree(programs);
-    for (const char* name : {"Core.so", "Engine.so"}) {
+    for (const char* name : {"Core.so", "Engine.so"})
         tree.write(name, "This is a stand-in: a text, not a library.\n");
-    }
 }
 
 void moveCache(const NativeSample& sample) {
@@ -92,9 +90,8 @@ NativeSample buildNativeSample(const fs::path& folder, const Options& options) {
     moveInis(system, programs);
     moveCache(sample);
     moveIntoHome(sample, "Save");
-    for (const char* name : {"UnrealTournament.log", "ucc.log"}) {
+    for (const char* name : {"UnrealTournament.log", "ucc.log"})
         moveText(system / name, written / name, byteOrderMark);
-    }
     makePrivate(sample.written / "Maps");
     fs::rename(sample.game / "Maps" / pathFromUtf8(unpackedMap),
                sample.written / "Maps" / pathFromUtf8(unpackedMap));

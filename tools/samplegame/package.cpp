@@ -26,12 +26,8 @@ std::string header(const Guid& guid) {
     appendLittleEndian(bytes, version, 2);
     appendLittleEndian(bytes, 0, 2);
     appendLittleEndian(bytes, allowDownload, 4);
-    for (int table = 0; table < tables; ++table) {
-        appendEmptyTable(bytes);
-    }
-    for (const std::uint32_t part : guid.parts) {
-        appendLittleEndian(bytes, part, 4);
-    }
+    for (int table = 0; table < tables; ++table) appendEmptyTable(bytes);
+    for (const std::uint32_t part : guid.parts) appendLittleEndian(bytes, part, 4);
     appendLittleEndian(bytes, 1, 4);
     appendLittleEndian(bytes, 0, 4);
     appendLittleEndian(bytes, 0, 4);
@@ -42,9 +38,7 @@ std::string header(const Guid& guid) {
 
 Guid Guid::random(Rng& rng) {
     Guid guid;
-    for (std::uint32_t& part : guid.parts) {
-        part = rng.next();
-    }
+    for (std::uint32_t& part : guid.parts) part = rng.next();
     return guid;
 }
 
@@ -59,9 +53,8 @@ std::string Guid::text() const {
 }
 
 std::string packageBytes(const Guid& guid, std::size_t size, Rng& rng) {
-    if (size < packageHeaderBytes) {
+    if (size < packageHeaderBytes)
         throw std::invalid_argument("a package needs room for its header of 64 bytes");
-    }
     return header(guid) + rng.filler(size - packageHeaderBytes);
 }
 

@@ -34,13 +34,12 @@ void append(std::string& text, std::string_view before, std::string_view value) 
 std::string lineOf(const Player& player) {
     std::string line(player.name);
     for (const std::string_view field :
-         {player.className, player.team, player.skin, player.face, player.voice, player.copy}) {
+         {player.className, player.team, player.skin, player.face, player.voice, player.copy})
         append(line, ",", field);
-    }
     return line + "\r\n";
 }
 
-/// A profile as the sample game's own, but for the player.
+// A profile as the sample game's own, but for the player.
 std::string profileOf(const Player& player) {
     std::string text = "[DefaultPlayer]";
     append(text, "\r\nName=", player.name);

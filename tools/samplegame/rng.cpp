@@ -43,9 +43,8 @@ const std::string& Rng::block() {
         block_.resize(blockBytes);
         for (std::size_t at = 0; at < blockBytes; at += 4) {
             const auto word = static_cast<std::uint32_t>(engine());
-            for (std::size_t byte = 0; byte < 4; ++byte) {
+            for (std::size_t byte = 0; byte < 4; ++byte)
                 block_[at + byte] = static_cast<char>(word >> (8 * byte) & 0xFFU);
-            }
         }
     }
     return block_;

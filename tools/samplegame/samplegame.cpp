@@ -40,9 +40,7 @@ std::string join(std::string_view folder, std::string_view name, std::string_vie
 std::string withCrLf(std::string_view text) {
     std::string lines;
     for (const char letter : text) {
-        if (letter == '\n') {
-            lines += '\r';
-        }
+        if (letter == '\n') lines += '\r';
         lines += letter;
     }
     return lines;
@@ -63,10 +61,9 @@ void writePackages(Tree& tree, Rng& rng) {
 }
 
 void writePrograms(Tree& tree) {
-    for (const std::string_view name : programNames()) {
+    for (const std::string_view name : programNames())
         tree.write(join("System", name), "This is a stand-in for " + std::string(name) +
                                              ": a text, not a program; it does not run.\r\n");
-    }
 }
 
 std::string localizedText(std::string_view name, std::string_view language) {
@@ -84,9 +81,7 @@ void writeLocalizedTexts(Tree& tree) {
 }
 
 void writeTexts(Tree& tree) {
-    for (const PlainFile& file : plainFiles()) {
-        tree.write(file.path, withCrLf(file.text));
-    }
+    for (const PlainFile& file : plainFiles()) tree.write(file.path, withCrLf(file.text));
     tree.write("System/UnrealTournament.ini", unrealTournamentIni());
     tree.write("System/User.ini", userIni());
     tree.write("System/Default.ini", defaultIni());
@@ -107,9 +102,7 @@ void writePictures(Tree& tree, Rng& rng, Layout& layout) {
 
 Layout buildSampleGame(const std::filesystem::path& folder, const Options& options) {
     Tree tree(folder);
-    for (const std::string_view name : folders) {
-        tree.makeFolder(name);
-    }
+    for (const std::string_view name : folders) tree.makeFolder(name);
     Rng rng(options.seed);
     Layout layout;
     writePackages(tree, rng);

@@ -25,10 +25,9 @@ fs::path Tree::write(std::string_view path, std::string_view bytes) {
     std::ofstream file(target, std::ios::binary | std::ios::trunc);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
-    if (!file) {
+    if (!file)
         throw fs::filesystem_error("cannot write a file of the sample", target,
                                    std::make_error_code(std::errc::io_error));
-    }
     totalBytes_ += bytes.size();
     return target;
 }

@@ -16,9 +16,8 @@ namespace fs = std::filesystem;
 
 // Opening a pipe waits for somebody at its other end.
 void requireNoPipe(const fs::path& file) {
-    if (fs::exists(file) && !fs::is_regular_file(file)) {
+    if (fs::exists(file) && !fs::is_regular_file(file))
         throw std::runtime_error("no file: " + file.string());
-    }
 }
 
 std::string read(const fs::path& file) {

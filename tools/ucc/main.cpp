@@ -51,9 +51,8 @@ int linuxJob(const ucc::NativeStart& start, const ucc::Console& console, const A
     if (job == "decompress" && files.size() != 1) throw std::runtime_error("One file at a time");
     const ucc::Commandlets commandlets({{start.written(), start.programs()}, start.written()},
                                        ucc::mannerFromEnvironment(), console);
-    for (const std::string& file : files) {
+    for (const std::string& file : files)
         job == "compress" ? commandlets.compress(file) : commandlets.decompress(file);
-    }
     start.rewriteIni();
     return 0;
 }

@@ -33,9 +33,8 @@ Manner mannerFromEnvironment() {
     const char* value = std::getenv("TESSARO_UCC");
     const std::string_view word = value ? value : "";
     const auto* known = std::ranges::find(words, word, &Word::word);
-    if (known == words.end()) {
+    if (known == words.end())
         throw std::runtime_error("TESSARO_UCC is set to an unknown word: " + std::string(word));
-    }
     return known->manner;
 }
 

@@ -91,9 +91,8 @@ class HeaderReader {
 
     std::string name() {
         const std::uint32_t size = compactIndex();
-        if (size == 0 || size > rest_.size() || rest_[size - 1] != '\0') {
+        if (size == 0 || size > rest_.size() || rest_[size - 1] != '\0')
             throw std::runtime_error("damaged file");
-        }
         const std::string text(rest_.substr(0, size - 1));
         rest_.remove_prefix(size);
         return text;
@@ -127,9 +126,8 @@ class HeaderReader {
 
 std::string compressed(const Package& package) {
     std::string file;
-    for (std::size_t i = 0; i < SignatureSize; ++i) {
+    for (std::size_t i = 0; i < SignatureSize; ++i)
         file += static_cast<char>(Signature >> (8 * i) & 0xFFU);
-    }
     appendCompactIndex(file, static_cast<std::uint32_t>(package.name.size() + 1));
     file.append(package.name).push_back('\0');
     return file + deflated(package.bytes);

@@ -24,10 +24,10 @@ using namespace tessaro;
 constexpr int pollMilliseconds = 100;
 constexpr int mostPolls = 600;
 
-/// One thing to do, once a named control can be used.
+// One thing to do, once a named control can be used.
 struct Step {
     QString control;
-    QString picture;  ///< taken before the control is pressed; none if empty
+    QString picture;  // taken before the control is pressed; none if empty
 };
 
 const std::vector<Step> steps{

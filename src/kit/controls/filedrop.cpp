@@ -17,15 +17,15 @@ bool holdsFiles(const QMimeData& data) {
     return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
 }
 
-/// X11's drags name the machine in the address, and so do some file managers. Qt would make the
-/// name of a share from it.
+// X11's drags name the machine in the address, and so do some file managers. Qt would make the
+// name of a share from it.
 QUrl withoutThisMachine(QUrl url) {
     for (const QString& machine : {QStringLiteral("localhost"), QSysInfo::machineHostName()})
         if (url.host().compare(machine, Qt::CaseInsensitive) == 0) url.setHost({});
     return url;
 }
 
-/// Old names may hold bytes that are no UTF-8, which only the address itself still has.
+// Old names may hold bytes that are no UTF-8, which only the address itself still has.
 HostPath hostPathOf(const QUrl& url) {
     const QString local = withoutThisMachine(url).toLocalFile();
     if (!local.contains(QChar::ReplacementCharacter)) return hostPathFromQt(local);
@@ -59,8 +59,8 @@ bool FileDrop::eventFilter(QObject*, QEvent* event) {
     }
 }
 
-/// Whoever offers nothing but to move would delete the files afterwards. The effect is left as it
-/// came, but a move becomes the copy that it may be as well.
+// Whoever offers nothing but to move would delete the files afterwards. The effect is left as it
+// came, but a move becomes the copy that it may be as well.
 void FileDrop::answer(QDropEvent& event) const {
     const bool onlyMoves = (event.possibleActions() & (Qt::CopyAction | Qt::LinkAction)) == 0;
     const bool accepted = holdsFiles(*event.mimeData()) && !onlyMoves;

@@ -18,7 +18,7 @@ std::string joined(const std::string& folder, const std::string& name) {
     return folder.ends_with('\\') ? folder + name : folder + '\\' + name;
 }
 
-/// "C:\", "Games" and "UT" of `C:\Games\UT`.
+// "C:\", "Games" and "UT" of `C:\Games\UT`.
 std::vector<std::string> partsOf(const std::string& path) {
     std::vector<std::string> parts{path.substr(0, 3)};
     for (std::size_t start = 3; start < path.size();) {
@@ -78,7 +78,7 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// A folder that has gone meanwhile, or may not be entered, leaves the list as it is.
+// A folder that has gone meanwhile, or may not be entered, leaves the list as it is.
 void FolderList::openByUser(const QTreeWidgetItem* item) {
     if (item == nullptr) return;
     const std::string path = fromQt(item->data(0, pathRole).toString());
@@ -97,7 +97,7 @@ void FolderList::fill() {
     setCurrentItem(open);
 }
 
-/// The folders from the drive down to the open one; gives the item of the latter.
+// The folders from the drive down to the open one; gives the item of the latter.
 QTreeWidgetItem* FolderList::addChain() {
     const QIcon icon = style()->standardIcon(QStyle::SP_DirOpenIcon);
     QTreeWidgetItem* last = invisibleRootItem();

@@ -53,7 +53,7 @@ void ListView::follow() {
     highlightItems();
 }
 
-/// Neighbours as one range: Qt compares each range with each other one.
+// Neighbours as one range: Qt compares each range with each other one.
 QItemSelection ListView::highlightOfItems() const {
     QItemSelection highlight;
     const int rows = model_->rowCount();
@@ -88,7 +88,7 @@ void ListView::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton) Q_EMIT menuWanted(event->globalPosition().toPoint());
 }
 
-/// By the mouse it comes with the press on some systems and with the release on others.
+// By the mouse it comes with the press on some systems and with the release on others.
 void ListView::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Mouse) return;
     const QRect row = visualRect(currentIndex()).intersected(viewport()->rect());

@@ -7,7 +7,7 @@
 namespace tessaro {
 namespace {
 
-/// Without an owner some desktops put a modal window behind the one that it blocks.
+// Without an owner some desktops put a modal window behind the one that it blocks.
 void ownByActiveWindow(QWidget& window) {
     const QWidget* owner = QApplication::activeWindow();
     window.winId();  // makes the window's handle

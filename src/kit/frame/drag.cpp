@@ -8,7 +8,7 @@
 namespace tessaro {
 namespace {
 
-/// Follows the mouse until the button is released, then removes itself.
+// Follows the mouse until the button is released, then removes itself.
 class Drag : public QObject {
   public:
     explicit Drag(QWidget& window) : QObject(&window), window_(window) {

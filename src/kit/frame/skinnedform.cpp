@@ -40,7 +40,7 @@ QPushButton* makeButton(QWidget* parent, const char* name, const char* caption,
     return button;
 }
 
-/// The last control in tab order that lies in `container`, or the container.
+// The last control in tab order that lies in `container`, or the container.
 QWidget* lastInTabOrder(QWidget* container) {
     QWidget* last = container;
     for (QWidget* widget = container->nextInFocusChain(); widget != container;
@@ -171,7 +171,7 @@ void SkinnedForm::showEvent(QShowEvent* event) {
     if (focusWidget() == nullptr) focusFirstControl();
 }
 
-/// Left alone, Qt would give the focus to the close button, which was made first.
+// Left alone, Qt would give the focus to the close button, which was made first.
 void SkinnedForm::focusFirstControl() {
     QWidget* widget = content_->nextInFocusChain();
     while (widget != content_ && !(content_->isAncestorOf(widget) && takesTab(*widget)))
@@ -179,7 +179,7 @@ void SkinnedForm::focusFirstControl() {
     if (widget != content_) widget->setFocus();
 }
 
-/// The band and its buttons grow with the font.
+// The band and its buttons grow with the font.
 void SkinnedForm::fitFrame() {
     const int letter = fontMetrics().height();
     const int buttonSize = letter + 7;
@@ -193,7 +193,7 @@ void SkinnedForm::fitFrame() {
     placeTitle();
 }
 
-/// Of the plate's two ends, which grow with its height.
+// Of the plate's two ends, which grow with its height.
 int SkinnedForm::capsWidth() const {
     return 2 * PlateLabel::capWidth * strut_->minimumHeight() / PlateLabel::pictureHeight;
 }

@@ -14,8 +14,8 @@
 namespace tessaro {
 namespace {
 
-/// Fusion, whatever the desktop, but for one icon that every menu bar asks for at its birth: Qt
-/// would load all picture libraries of the system to look at it, before the first paint.
+// Fusion, whatever the desktop, but for one icon that every menu bar asks for at its birth: Qt
+// would load all picture libraries of the system to look at it, before the first paint.
 class ProgramStyle : public QProxyStyle {
   public:
     ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -29,7 +29,7 @@ class ProgramStyle : public QProxyStyle {
     }
 };
 
-/// A colour, the same in both states of a window, and the one of disabled controls.
+// A colour, the same in both states of a window, and the one of disabled controls.
 struct RoleColour {
     QPalette::ColorRole role;
     QColor enabled;

@@ -17,7 +17,7 @@ namespace {
 // Wide enough for a title and for most names; Qt makes the box as wide as its prompt.
 constexpr int inputLetters = 60;
 
-/// What a set of buttons is made of. Enter presses the first button, Esc the last resort.
+// What a set of buttons is made of. Enter presses the first button, Esc the last resort.
 struct ButtonSet {
     QMessageBox::StandardButtons all;
     QMessageBox::StandardButton first;
@@ -66,7 +66,7 @@ Answer answerOf(int button) {
     }
 }
 
-/// The window that the question belongs to.
+// The window that the question belongs to.
 QWidget* owner() {
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : QApplication::activeWindow();
@@ -76,8 +76,8 @@ void showPlainText(const QWidget& dialog) {
     for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
 }
 
-/// `filter` holds words, a bar and a pattern. The words are shown as they are; Qt by itself would
-/// read them for a pattern, and take "*.*" for names with a dot only.
+// `filter` holds words, a bar and a pattern. The words are shown as they are; Qt by itself would
+// read them for a pattern, and take "*.*" for names with a dot only.
 void setFilter(QFileDialog& box, const std::string& filter) {
     const QStringList parts = toQt(filter).split(QLatin1Char('|'));
     const QString pattern =

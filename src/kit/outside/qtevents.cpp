@@ -11,8 +11,8 @@ namespace {
 
 constexpr int idleMilliseconds = 5;
 
-/// Sees every event of the program as long as it lives, and takes the end of the desktop's session
-/// for an end of the program: windows asked to close would refuse it, or leave the wait behind.
+// Sees every event of the program as long as it lives, and takes the end of the desktop's session
+// for an end of the program: windows asked to close would refuse it, or leave the wait behind.
 class SessionFilter : public QObject {
   public:
     explicit SessionFilter(ProgramEnd& programEnd) : end_(programEnd) {
@@ -29,7 +29,7 @@ class SessionFilter : public QObject {
     ProgramEnd& end_;
 };
 
-/// Swallows what the user does with mouse, keys and window frames as well.
+// Swallows what the user does with mouse, keys and window frames as well.
 class InputFilter : public SessionFilter {
   public:
     using SessionFilter::SessionFilter;

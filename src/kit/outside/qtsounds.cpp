@@ -21,7 +21,7 @@ namespace {
 // same event loop.
 constexpr int untilPaintedMilliseconds = 50;
 
-/// Name of the resource file; the names of sounds ignore case. Raises 326.
+// Name of the resource file; the names of sounds ignore case. Raises 326.
 QString soundFile(std::string_view name) {
     const QString file = QStringLiteral("/sounds/%1.wav").arg(toQt(lowerCase(name)));
     if (!QFile::exists(QLatin1Char(':') + file))
@@ -50,10 +50,9 @@ std::string QtSounds::resource(std::string_view name) {
 int QtSounds::start(std::string_view name) {
     const bool posted = !next_.isEmpty();
     next_ = soundFile(name);
-    if (!posted) {
+    if (!posted)
         QMetaObject::invokeMethod(
             &later_, [this] { playSoon(); }, Qt::QueuedConnection);
-    }
     return silent_ ? 0 : 1;
 }
 

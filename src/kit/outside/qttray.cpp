@@ -35,7 +35,7 @@ void QtTray::remove() {
     icon_ = nullptr;
 }
 
-/// Qt tells of a click as a whole; press and release are sent in turn.
+// Qt tells of a click as a whole; press and release are sent in turn.
 void QtTray::hear(QSystemTrayIcon::ActivationReason reason) {
     switch (withDoubleClicks(reason)) {
         case QSystemTrayIcon::Trigger:
@@ -49,7 +49,7 @@ void QtTray::hear(QSystemTrayIcon::ActivationReason reason) {
     }
 }
 
-/// Some desktops tell of two clicks where the user made a double one.
+// Some desktops tell of two clicks where the user made a double one.
 QSystemTrayIcon::ActivationReason QtTray::withDoubleClicks(
     QSystemTrayIcon::ActivationReason reason) {
     const bool again =

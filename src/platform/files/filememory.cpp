@@ -13,9 +13,8 @@ void FileMemory::read(std::string_view path, const HostPath& file) {
     path_ = path;
     watch_.reset();
     WatchedBytes fresh = again ? host_.readWatched(file) : WatchedBytes{host_.read(file), nullptr};
-    if (!bytes_ || *bytes_ != fresh.bytes) {
+    if (!bytes_ || *bytes_ != fresh.bytes)
         bytes_ = std::make_shared<const std::string>(std::move(fresh.bytes));
-    }
     watch_ = std::move(fresh.watch);
     writable_ = watch_ && attempt([&] { requireReplaceable(host_, file); });
 }

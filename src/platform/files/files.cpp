@@ -79,15 +79,13 @@ void deleteFile(Host& host, const HostPath& file) {
 std::vector<std::string> Files::list(std::string_view pattern, int attributes) {
     const std::size_t name = lastPart(pattern);
     if (name == pattern.size()) return listFolder(pattern, everything, attributes);
-    if (hasWildcard(pattern.substr(name))) {
+    if (hasWildcard(pattern.substr(name)))
         return listFolder(pattern.substr(0, name), pattern.substr(name), attributes);
-    }
     const auto path = paths_.find(pattern);
     if (!path || !isWanted(host_, *path, attributes)) return {};
     // A root has no name of its own to list.
-    if (paths_.absolute(pattern).ends_with('\\')) {
+    if (paths_.absolute(pattern).ends_with('\\'))
         return listFolder(pattern, everything, attributes);
-    }
     return {gameName(path->filename().string())};
 }
 
@@ -179,9 +177,8 @@ void Files::copyFile(std::string_view from, std::string_view to) {
     if (!given) throw RunTimeError(errors::FileNotFound, source.string());
     if (given->folder) throw RunTimeError(errors::PathFileAccess, source.string());
     const auto old = host_.status(target);
-    if (old && old->stamp.device == given->stamp.device && old->stamp.inode == given->stamp.inode) {
+    if (old && old->stamp.device == given->stamp.device && old->stamp.inode == given->stamp.inode)
         throw RunTimeError(errors::PermissionDenied, target.string());
-    }
     replaceByCopy(host_, source, target);
     paths_.forget(target.parent_path());
 }
@@ -202,12 +199,10 @@ std::vector<std::optional<HostPath>> Files::toDelete(std::string_view pattern,
     LayeredFolder* layers = paths_.layers(folder);
     std::vector<std::optional<HostPath>> found;
     found.reserve(names.size());
-    for (const std::string& name : names) {
+    for (const std::string& name : names)
         found.push_back(layers ? layers->toDelete(name) : place / hostName(name));
-    }
-    for (const HostPath& each : layers ? layers->folders() : std::vector{place}) {
+    for (const HostPath& each : layers ? layers->folders() : std::vector{place})
         paths_.forget(each);
-    }
     return found;
 }
 
@@ -229,9 +224,8 @@ void Files::deleteWhatGoes(std::string_view pattern) {
 void Files::makeFolder(std::string_view folder) {
     const HostPath path = paths_.toWrite(folder);
     if (host_.status(path)) throw RunTimeError(errors::PathFileAccess, path.string());
-    if (!isFolder(host_, path.parent_path())) {
+    if (!isFolder(host_, path.parent_path()))
         throw RunTimeError(errors::PathNotFound, path.string());
-    }
     host_.makeFolder(path);
     paths_.forget(path.parent_path());
 }

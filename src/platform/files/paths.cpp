@@ -110,9 +110,8 @@ std::optional<HostPath> Paths::findFull(std::string_view full) {
 LayeredFolder::Finding Paths::findIn(const Folder& folder, std::string_view name) {
     if (folder.layers) return folder.layers->find(name);
     const auto finding = index_.find(folder.path, name);
-    if (const LayeredFolder* layers = finding.folder ? layers_.in(folder.path, name) : nullptr) {
+    if (const LayeredFolder* layers = finding.folder ? layers_.in(folder.path, name) : nullptr)
         return {true, layers->place()};
-    }
     if (!finding.name) return {finding.folder, std::nullopt};
     return {true, folder.path / hostName(*finding.name)};
 }

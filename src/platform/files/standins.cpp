@@ -16,7 +16,7 @@ bool hasMeaning(char letter) {
     return lettersWithMeaning.find(letter) != std::string_view::npos;
 }
 
-/// U+F000 and the letter's own code, in UTF-8.
+// U+F000 and the letter's own code, in UTF-8.
 std::string standIn(char letter) {
     const auto code = static_cast<unsigned char>(letter);
     return {startOfStandIns, static_cast<char>(0x80 | code >> 6),

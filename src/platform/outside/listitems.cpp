@@ -19,13 +19,13 @@ void requireIndex(std::size_t index, std::size_t last) {
     if (index < 1 || index > last) throw RunTimeError(errors::IndexOutOfBounds);
 }
 
-/// A row with what a sort needs: its folded text, and where it stood.
+// A row with what a sort needs: its folded text, and where it stood.
 struct Keyed {
     std::string key;
     std::size_t index;
 };
 
-/// Rows of equal text keep the order they had.
+// Rows of equal text keep the order they had.
 void sortKeys(std::vector<Keyed>& keys, bool descending) {
     std::stable_sort(keys.begin(), keys.end(), [descending](const Keyed& a, const Keyed& b) {
         return descending ? b.key < a.key : a.key < b.key;

@@ -87,9 +87,8 @@ CommandLine splitCommandLine(std::string_view line) {
     CommandLine parts;
     parts.program = line.substr(0, line.find_first_of(blanks));
     std::string_view rest = line.substr(parts.program.size());
-    for (skipBlanks(rest); !rest.empty(); skipBlanks(rest)) {
+    for (skipBlanks(rest); !rest.empty(); skipBlanks(rest))
         parts.arguments.push_back(ArgumentReader(rest).read());
-    }
     return parts;
 }
 

@@ -14,9 +14,8 @@ void raiseErrno(const HostPath& path) {
 }
 
 const char* systemName(const HostPath& path) {
-    if (path.native().find('\0') != std::string::npos) {
+    if (path.native().find('\0') != std::string::npos)
         throw RunTimeError(errors::BadFileNumber, path.native());
-    }
     return path.c_str();
 }
 

@@ -85,7 +85,7 @@ class WatchPost {
         quiet_ = true;
         return ++round_;
     }
-    /// Of what is reported with a name, only one that may be taken for this name counts.
+    // Of what is reported with a name, only one that may be taken for this name counts.
     bool watch(const HostPath& path, std::uint32_t events, const std::string& name) {
         if (!onOwnDisk(path)) return false;
         const int watch = ::inotify_add_watch(events_.get(), path.c_str(), events);
@@ -100,9 +100,8 @@ class WatchPost {
   private:
     void waitFor(const Descriptor& source, std::uint32_t what) {
         epoll_event event{what, {.fd = source.get()}};
-        if (::epoll_ctl(reports_.get(), EPOLL_CTL_ADD, source.get(), &event) == -1) {
+        if (::epoll_ctl(reports_.get(), EPOLL_CTL_ADD, source.get(), &event) == -1)
             raiseErrno(source.path());
-        }
     }
 
     bool newReports() {
@@ -215,9 +214,8 @@ std::unique_ptr<FileWatch> watchFile(const Descriptor& file) {
         const auto post = watchPost();
         const int round = post->begin();
         Way way(file.path());
-        if (way.watch(*post) && isAt(file, way.end()) && openToNobodyElse(file)) {
+        if (way.watch(*post) && isAt(file, way.end()) && openToNobodyElse(file))
             watch = std::make_unique<LinuxFileWatch>(post, round);
-        }
     });
     return watch;
 }

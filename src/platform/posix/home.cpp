@@ -8,9 +8,8 @@
 namespace tessaro {
 
 HostPath homeFolder() {
-    if (const char* fromEnvironment = std::getenv("HOME"); fromEnvironment && *fromEnvironment) {
+    if (const char* fromEnvironment = std::getenv("HOME"); fromEnvironment && *fromEnvironment)
         return fromEnvironment;
-    }
     const passwd* user = ::getpwuid(::getuid());
     return user && user->pw_dir ? user->pw_dir : "/";
 }

@@ -127,9 +127,8 @@ void Likeness::giveToCopy(int file) const {
 
 // Only a privileged user may give files away; most may choose among their own groups.
 void Likeness::giveOwner(int file) const {
-    if (::fchown(file, owner_, group_) == -1) {
+    if (::fchown(file, owner_, group_) == -1)
         passOver(::fchown(file, static_cast<uid_t>(-1), group_));
-    }
 }
 
 // What the old group had is not for another one, nor does it tell what the group had where the list

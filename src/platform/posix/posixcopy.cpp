@@ -33,9 +33,8 @@ void copyInKernel(Descriptor& from, Descriptor& to) {
 void copyContents(Descriptor& from, Descriptor& to) {
     copyInKernel(from, to);
     std::vector<char> buffer(bufferSize);
-    while (const std::size_t size = from.read(buffer.data(), buffer.size())) {
+    while (const std::size_t size = from.read(buffer.data(), buffer.size()))
         to.write({buffer.data(), size});
-    }
 }
 
 }  // namespace tessaro

@@ -160,9 +160,8 @@ class PosixHost : public Host {
         attempt([&] {
             Descriptor opened(folder, O_RDONLY | O_DIRECTORY);
             const auto locked = [&] { return ::flock(opened.get(), LOCK_EX | LOCK_NB) == 0; };
-            if (becomes(patience, [&] { return locked() || errno != EWOULDBLOCK; }) && locked()) {
+            if (becomes(patience, [&] { return locked() || errno != EWOULDBLOCK; }) && locked())
                 lock = std::make_unique<PosixFolderLock>(std::move(opened));
-            }
         });
         return lock;
     }

@@ -81,9 +81,8 @@ class NewFile : public PosixWriter {
 
 std::unique_ptr<NewFile> openNew(const HostPath& name, mode_t mode) {
     systemName(name);
-    if (auto nameless = openNameless(name.parent_path(), mode)) {
+    if (auto nameless = openNameless(name.parent_path(), mode))
         return std::make_unique<NewFile>(*std::move(nameless), name, false);
-    }
     Descriptor opened(name, O_WRONLY | O_CREAT | O_EXCL, mode);
     return std::make_unique<NewFile>(std::move(opened), name, true);
 }
@@ -98,9 +97,8 @@ class OldFile : public PosixWriter {
     bool alike() const override { return true; }
     void close() override {
         const off_t end = ::lseek(file_.get(), 0, SEEK_CUR);
-        if (end == -1 || uninterrupted([&] { return ::ftruncate(file_.get(), end); }) == -1) {
+        if (end == -1 || uninterrupted([&] { return ::ftruncate(file_.get(), end); }) == -1)
             raiseErrno(name_);
-        }
         file_.flush();
         file_.close();
     }

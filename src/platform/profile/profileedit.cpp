@@ -70,10 +70,9 @@ Splice planNewKey(const ProfileText& text, const std::optional<ProfileSection>& 
 std::optional<Splice> planKey(const ProfileText& text, const ProfileChange& change) {
     const auto section = text.findSection(change.section);
     const auto key = section ? text.findKey(*section, *change.key) : std::nullopt;
-    if (!change.text) {
+    if (!change.text)
         return key ? std::optional(Splice{text.position(key->line), key->line.size(), {}})
                    : std::nullopt;
-    }
     if (!key) return planNewKey(text, section, change);
     if (holds(text, *key, *change.text)) return std::nullopt;
     return Splice{text.position(key->value), key->value.size(), std::string(*change.text)};

@@ -20,9 +20,8 @@ void addName(std::string& listing, const ProfileText& text, std::string_view nam
 }  // namespace
 
 ProfileReader::ProfileReader(std::string_view bytes) : text_(bytes) {
-    for (auto each = text_.sectionFrom(0); each; each = text_.sectionFrom(each->body)) {
+    for (auto each = text_.sectionFrom(0); each; each = text_.sectionFrom(each->body))
         sections_.try_emplace(readable(each->name), Section{*each, {}});
-    }
 }
 
 std::optional<std::string> ProfileReader::value(std::string_view section, std::string_view key) {
@@ -38,9 +37,8 @@ void ProfileReader::takeValues(Section& section) {
     section.values.emplace();
     ProfileLines lines = text_.lines(section.place);
     while (const auto line = lines.next()) {
-        if (const auto key = keyOf(*line)) {
+        if (const auto key = keyOf(*line))
             section.values->try_emplace(readable(key->name), key->value);
-        }
     }
 }
 
@@ -51,9 +49,8 @@ std::string_view ProfileReader::readable(std::string_view name) {
 
 std::string ProfileReader::sections() const {
     std::string listing;
-    for (auto each = text_.sectionFrom(0); each; each = text_.sectionFrom(each->body)) {
+    for (auto each = text_.sectionFrom(0); each; each = text_.sectionFrom(each->body))
         addName(listing, text_, each->name);
-    }
     return listing;
 }
 

@@ -9,9 +9,7 @@ namespace {
 
 std::int16_t checked(long long value) {
     using Limits = std::numeric_limits<std::int16_t>;
-    if (value < Limits::min() || value > Limits::max()) {
-        throw RunTimeError(errors::Overflow);
-    }
+    if (value < Limits::min() || value > Limits::max()) throw RunTimeError(errors::Overflow);
     return static_cast<std::int16_t>(value);
 }
 

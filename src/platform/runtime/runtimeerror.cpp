@@ -77,9 +77,7 @@ RunTimeError::RunTimeError(int number, std::string detail)
       description_(describe(number)),
       detail_(std::move(detail)),
       what_("Run-time error " + std::to_string(number_) + ": " + description_) {
-    if (!detail_.empty()) {
-        what_ += " (" + detail_ + ")";
-    }
+    if (!detail_.empty()) what_ += " (" + detail_ + ")";
 }
 
 std::string standardReport(const RunTimeError& error) {

@@ -63,9 +63,8 @@ char32_t nextKept(std::string_view text, std::size_t& position) {
 std::string decodeCodePage(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 8);
-    for (const char byte : bytes) {
+    for (const char byte : bytes)
         appendCharacter(text, fromCodePage(static_cast<unsigned char>(byte)));
-    }
     return text;
 }
 
@@ -122,9 +121,8 @@ std::string decodeUtf16(std::string_view bytes, const Utf16& utf16) {
         }
         appendCharacter(text, character);
     }
-    if (position < bytes.size()) {
+    if (position < bytes.size())
         appendCharacter(text, oddByte | static_cast<unsigned char>(bytes[position]));
-    }
     return text;
 }
 

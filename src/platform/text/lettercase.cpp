@@ -90,9 +90,8 @@ char32_t nextLower(std::string_view name, std::size_t& position) {
 }  // namespace
 
 char32_t lowerCase(char32_t character) {
-    if (character < runs[0].first) {
+    if (character < runs[0].first)
         return static_cast<unsigned char>(lowerAscii(static_cast<char>(character)));
-    }
     const auto* run = std::prev(std::ranges::upper_bound(runs, character, {}, &Run::first));
     if (character > run->last || (character - run->first) % run->step != 0) return character;
     return character + static_cast<char32_t>(run->distance);
@@ -119,17 +118,14 @@ bool sameName(std::string_view one, std::string_view other) {
         if (lowerAscii(one[at]) != lowerAscii(other[at])) return false;
         ++at;
     }
-    if (at == one.size() || at == other.size()) {
-        return one.size() == other.size();
-    }
+    if (at == one.size() || at == other.size()) return one.size() == other.size();
     return lowerCase(one.substr(at)) == lowerCase(other.substr(at));
 }
 
 std::uint32_t nameHash(std::string_view name) {
     std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
-    for (std::size_t position = 0; position < name.size();) {
+    for (std::size_t position = 0; position < name.size();)
         hash = (hash ^ nextLower(name, position)) * 0x100000001B3;
-    }
     return static_cast<std::uint32_t>(hash ^ (hash >> 32));
 }
 

@@ -27,7 +27,7 @@ class FolderLists : public ::testing::Test {
         list_.show();
     }
 
-    /// Names in the order shown, each with two blanks per level.
+    // Names in the order shown, each with two blanks per level.
     std::vector<std::string> shown() const {
         std::vector<std::string> rows;
         for (QTreeWidgetItemIterator it(const_cast<FolderList*>(&list_)); *it; ++it) {

@@ -164,7 +164,7 @@ TEST_F(ListViews, AClickOnAColumnsHeadIsReportedByItsNumber) {
     EXPECT_EQ(clicks[0][0].toInt(), 2);
 }
 
-/// Where on the screen menus were asked for.
+// Where on the screen menus were asked for.
 class MenusOfListViews : public ListViews {
   protected:
     QSignalSpy menus_{&view_, &ListView::menuWanted};
@@ -173,7 +173,7 @@ class MenusOfListViews : public ListViews {
         return view_.visualRect(view_.model()->index(row, 0)).center();
     }
     QPoint place(int menu) const { return menus_[menu][0].toPoint(); }
-    /// What the system makes of the key for the control with the focus.
+    // What the system makes of the key for the control with the focus.
     void pressMenuKey() {
         QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
         QCoreApplication::sendEvent(&view_, &event);

@@ -18,7 +18,7 @@ using test::serveEvents;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// What the forms of these tests did, in order.
+// What the forms of these tests did, in order.
 std::vector<std::string> events;
 
 class FormRegistry : public test::FormsTest {
@@ -30,7 +30,7 @@ class FormRegistry : public test::FormsTest {
     void addForms();
 };
 
-/// Writes its life down. `number` tells form classes apart.
+// Writes its life down. `number` tells form classes apart.
 template <int number>
 class Recorder : public FormWindow<QDialog> {
   public:

@@ -13,7 +13,7 @@
 namespace tessaro {
 namespace {
 
-/// Stands in for what a Designer file makes.
+// Stands in for what a Designer file makes.
 struct TwoBoxes {
     QLineEdit* Text1 = nullptr;
     QLineEdit* Text2 = nullptr;
@@ -74,8 +74,8 @@ class SkinnedForms : public test::FormsTest {
                           Qt::NoModifier);
         QApplication::sendEvent(&target, &event);
     }
-    /// Presses a button on a handle and moves the mouse. Gives how far the form went from the
-    /// first movement on.
+    // Presses a button on a handle and moves the mouse. Gives how far the form went from the
+    // first movement on.
     static QPoint dragged(QWidget& form, QWidget& handle, Qt::MouseButton button) {
         const QPoint grip = handle.mapToGlobal(QPoint(5, 5));
         const QPoint before = form.pos();

@@ -47,7 +47,7 @@ TEST_F(RealEvents, TheClockLiesWithinADay) {
     EXPECT_LT(now, 86400);
 }
 
-/// A wait that nothing limits, in which the windows stay in use.
+// A wait that nothing limits, in which the windows stay in use.
 class EndlessPump : public RealEvents {
   protected:
     QtEvents events_{end_};
@@ -68,7 +68,7 @@ TEST_F(EndlessPump, TheEndOfTheDesktopsSessionEndsTheProgramAtOnce) {
     EXPECT_TRUE(end_.ended());
 }
 
-/// A window that the user tries to use while a child process runs.
+// A window that the user tries to use while a child process runs.
 class RepaintDuringAChild : public test::FormsTest {
   protected:
     struct Window : QWidget {
@@ -91,7 +91,7 @@ class RepaintDuringAChild : public test::FormsTest {
         window_.show();
         test::serveEvents();
     }
-    /// Does something from inside the repaint, where the desktop's events come in.
+    // Does something from inside the repaint, where the desktop's events come in.
     void meanwhile(const std::function<void()>& act) {
         bool acted = false;
         QTimer::singleShot(0, &window_, [&] {

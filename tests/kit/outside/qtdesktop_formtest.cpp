@@ -21,7 +21,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// Stands in for the user's browser, and can be asked where it is.
+// Stands in for the user's browser, and can be asked where it is.
 class Browser : public QTextBrowser {
   public:
     Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "setSource"); }
@@ -48,10 +48,10 @@ TEST(TheDesktop, SaysNothingWhereThereIsNoBrowser) {
     EXPECT_EQ(said, QStringList{"heard"});
 }
 
-/// A hook with a tray that shows its picture.
+// A hook with a tray that shows its picture.
 class RealTray : public ::testing::Test {
   protected:
-    /// Writes down where the mouse moves.
+    // Writes down where the mouse moves.
     class Hook : public QLabel {
       public:
         std::vector<int> places;

@@ -24,7 +24,7 @@ class RealDialogs : public test::FormsTest {
   protected:
     QtDialogs dialogs_{end_, world_.world.host, world_.world.drives};
 
-    /// Shows a message and lets `act` answer it.
+    // Shows a message and lets `act` answer it.
     Answer answered(const Message& message, std::function<void(QMessageBox&)> act) {
         const auto box = [] { return visibleWindow<QMessageBox>("messageBox"); };
         const WhenItComes answer([&] { return box() != nullptr; }, [&] { act(*box()); });
@@ -170,7 +170,7 @@ class FilePickers : public RealDialogs {
         nameField(box).setText(name);
         QTest::keyClick(&nameField(box), Qt::Key_Return);
     }
-    /// Whether the box lists the file, once it has read its folder.
+    // Whether the box lists the file, once it has read its folder.
     static bool lists(const QFileDialog& box, const QString& name) {
         const auto* view = box.findChild<QListView*>(QStringLiteral("listView"));
         const QAbstractItemModel* model = view->model();

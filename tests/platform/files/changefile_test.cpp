@@ -87,10 +87,9 @@ TEST(ChangeFile, AMissingFileIsAnEmptyOne) {
 
 TEST(ChangeFile, NothingToChangeTouchesNothing) {
     Changing world;
-    for (const char* name : {"file.ini", "none.ini"}) {
+    for (const char* name : {"file.ini", "none.ini"})
         changeFile(world.host, world.at("C:\\s") / name,
                    [](std::string_view) { return std::optional<std::string>(); });
-    }
     EXPECT_EQ(world.host.count(Call::Create), 0);
     EXPECT_EQ(world.now(), "old");
     EXPECT_THAT(world.names("C:\\s"), ElementsAre("file.ini"));

@@ -17,7 +17,7 @@ using test::TestWorld;
 
 constexpr std::string_view file = "C:\\game\\user.ini";
 
-/// Says of every file it has read that it is the same, until told otherwise.
+// Says of every file it has read that it is the same, until told otherwise.
 class QuietHost : public FailingHost {
   public:
     using FailingHost::FailingHost;

@@ -28,9 +28,8 @@ void makeReadOnly(const HostPath& file) {
 
 TEST(Files, ListsNamesInOrderWithoutRegardToCase) {
     TestWorld world;
-    for (const char* name : {"b.ini", "A.ini", "c.INI", "B.ini", "x.txt"}) {
+    for (const char* name : {"b.ini", "A.ini", "c.INI", "B.ini", "x.txt"})
         world.write(std::string("C:\\s\\") + name, "");
-    }
     EXPECT_THAT(world.files.list("C:\\s\\*.ini", attributes::Normal),
                 ElementsAre("A.ini", "B.ini", "b.ini", "c.INI"));
     EXPECT_EQ(world.files.firstMatch("C:\\S\\*.ini", attributes::Normal), "A.ini");
@@ -113,7 +112,7 @@ TEST(Files, AMissingFolderListsNothing) {
     EXPECT_THAT(world.files.list("C:\\nowhere\\x", all), IsEmpty());
 }
 
-/// Gives the file `b` the number that the file `a` has, on the same disk or on another one.
+// Gives the file `b` the number that the file `a` has, on the same disk or on another one.
 class SameNumber : public test::FailingHost {
   public:
     SameNumber(Host& real, bool otherDisk) : FailingHost(real), otherDisk_(otherDisk) {}
@@ -306,9 +305,8 @@ TEST(Files, ACopyThatFailsPartWayLeavesNoFragment) {
 
 TEST(Files, DeletesWhatMatchesButNoFolders) {
     TestWorld world;
-    for (const char* name : {"cache1.tmp", "CACHE2.TMP", "cache.ini"}) {
+    for (const char* name : {"cache1.tmp", "CACHE2.TMP", "cache.ini"})
         world.write(std::string("C:\\s\\") + name, "");
-    }
     world.makeFolder("C:\\s\\cache3.tmp");
     world.files.deleteFiles("C:\\s\\cache*.tmp");
     EXPECT_THAT(world.names("C:\\s"), ElementsAre("cache.ini", "cache3.tmp"));

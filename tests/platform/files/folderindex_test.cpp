@@ -141,9 +141,7 @@ TEST(FolderIndex, AFolderThatCouldNotBeListedForAMomentKnowsAllNamesAfterwards) 
 
 TEST(FolderIndex, OfSeveralFoldsTheFirstInByteOrderIsTaken) {
     TestWorld world;
-    for (const char* name : {"abC", "aBc", "Abc"}) {
-        world.write(std::string("C:\\x\\") + name, "");
-    }
+    for (const char* name : {"abC", "aBc", "Abc"}) world.write(std::string("C:\\x\\") + name, "");
     FolderIndex index(world.host);
     EXPECT_EQ(index.find(world.at("C:\\x"), "ABC").name, "Abc");
     EXPECT_EQ(index.find(world.at("C:\\x"), "aBc").name, "aBc");

@@ -52,9 +52,8 @@ std::string listOf(std::initializer_list<Entry> entries) {
     constexpr std::uint32_t version = 2;
     std::string bytes(sizeof version, '\0');
     std::memcpy(bytes.data(), &version, sizeof version);
-    for (const Entry& entry : entries) {
+    for (const Entry& entry : entries)
         bytes.append(reinterpret_cast<const char*>(&entry), sizeof entry);
-    }
     return bytes;
 }
 
@@ -116,9 +115,8 @@ TEST(Likeness, AFoldersListOpensNoFileThatHadNoneButGivesNewOnesTheirs) {
     const HostPath from = place.write("from", 0664);
     const std::string list =
         listOf({{owner, 7}, {aUser, 7, 1234}, {group, 0}, {mask, 7}, {others, 0}});
-    if (!Place::setAttribute(place.folder.path(), folderList, list)) {
+    if (!Place::setAttribute(place.folder.path(), folderList, list))
         GTEST_SKIP() << "no access lists here";
-    }
     auto inode = Place::statusOf(file).st_ino;
     const std::function<void()> replacements[] = {
         [&] { replaceFile(*place.host, file, "new"); },
@@ -161,9 +159,8 @@ TEST(Likeness, AttributesAreKept) {
     const Place place;
     const HostPath file = place.write("file", 0644);
     if (!Place::setAttribute(file, "user.test", std::string("a\0b", 3)) ||
-        !Place::setAttribute(file, "user.empty", "")) {
+        !Place::setAttribute(file, "user.empty", ""))
         GTEST_SKIP() << "no attributes here";
-    }
     replaceFile(*place.host, file, "new");
     EXPECT_EQ(Place::attribute(file, "user.test"), std::string("a\0b", 3));
     EXPECT_EQ(Place::attribute(file, "user.empty"), "");
@@ -271,9 +268,8 @@ TEST(Likeness, AFileThatIsMountedByItselfIsWrittenOver) {
     const HostPath mounted = place.write("mounted", 0644);
     const int result = Place::inAChild([&](Host& host) {
         if (!hasOwnMounts() ||
-            ::mount(file.c_str(), mounted.c_str(), nullptr, MS_BIND, nullptr) != 0) {
+            ::mount(file.c_str(), mounted.c_str(), nullptr, MS_BIND, nullptr) != 0)
             return notHere;
-        }
         replaceFile(host, mounted, "new");
         return TestWorld::readHost(mounted) == "new" ? 0 : 1;
     });

@@ -27,9 +27,8 @@ constexpr const char* WaitForRelease =
 Arguments argumentsIn(const HostPath& file) {
     Arguments arguments;
     const std::string text = test::TestWorld::readHost(file);
-    for (std::size_t at = 0; at < text.size(); at = text.find('\0', at) + 1) {
+    for (std::size_t at = 0; at < text.size(); at = text.find('\0', at) + 1)
         arguments.emplace_back(text.c_str() + at);
-    }
     return arguments;
 }
 
@@ -342,9 +341,8 @@ TEST_F(WineTest, RealConsoleProgramRunsThroughRealWine) {
     const test::Environment temporary("TMPDIR", world.folder());
     const test::Environment quiet("WINEDLLOVERRIDES", "mscoree,mshtml=");
     const test::Environment silent("WINEDEBUG", "-all");
-    if (std::system("wine wineboot -i >/dev/null 2>&1") != 0) {
+    if (std::system("wine wineboot -i >/dev/null 2>&1") != 0)
         GTEST_SKIP() << "Wine is installed but cannot make a prefix here";
-    }
     run(R"(C:\Windows\System32\CMD.exe /c "echo %CD% [it's]> C:\out.txt")");
     EXPECT_EQ(world.read("out.txt"), "C:\\ [it's]\r\n");
     EXPECT_EQ(std::system("wineserver -w"), 0);

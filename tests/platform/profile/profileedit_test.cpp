@@ -236,9 +236,8 @@ TEST(ProfileEdit, HalfAPairReadFromOneFileIsKeptInAnother) {
 
 TEST(ProfileEdit, RepeatedWritesOfDifferentTextsStayOneLine) {
     std::string bytes = "[S]\r\n";
-    for (const std::string text : {"a", "bb", "", "Ö", "c"}) {
+    for (const std::string text : {"a", "bb", "", "Ö", "c"})
         bytes = write(bytes, "S", "k", text).value();
-    }
     EXPECT_EQ(bytes, "[S]\r\nk=c\r\n");
 }
 

@@ -29,8 +29,8 @@ using test::TestWorld;
 
 constexpr std::string_view path = "C:\\game\\user.ini";
 
-/// Changes the file past the program, in all ways there are, and knows what it holds without
-/// opening it, which would be noticed.
+// Changes the file past the program, in all ways there are, and knows what it holds without
+// opening it, which would be noticed.
 class OtherProgram {
   public:
     explicit OtherProgram(TestWorld& world) : world_(world) { replace(fresh(0)); }
@@ -165,13 +165,13 @@ TEST(ProfileMemory, AnswersAsAFreshReadWhateverHappensInBetween) {
     EXPECT_LT(world.host.count(Call::Read), asked * 9 / 10) << "nothing was remembered";
 }
 
-/// What two processes tell each other.
+// What two processes tell each other.
 struct Shared {
     std::atomic<int> written{0};  // the number that the file holds at least
     std::atomic<bool> enough{false};
 };
 
-/// A child process that writes numbers that grow, and says so after each, until its end is near.
+// A child process that writes numbers that grow, and says so after each, until its end is near.
 class Writer {
   public:
     using Write = std::function<void(int number)>;
@@ -239,9 +239,8 @@ TEST(ProfileMemory, NoAnswerIsOlderThanAFileThatAnotherProgramWritesInPlaceAllTh
         const std::string answer = valueNow(world, "k");
         const int now = writer.written() + 1;  // one may be written and not yet said
         std::string possible;
-        for (int number = said; number <= now && number < said + 26; ++number) {
+        for (int number = said; number <= now && number < said + 26; ++number)
             possible += letter(number);
-        }
         ASSERT_NE(possible.find(answer), std::string::npos) << answer << " of " << possible;
     }
 }

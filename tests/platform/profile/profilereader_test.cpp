@@ -214,9 +214,7 @@ TEST(DamagedProfile, AHugeLineIsOneLine) {
 
 TEST(DamagedProfile, BinaryRubbishIsSearchedToItsEnd) {
     std::string rubbish;
-    for (int i = 0; i < 70000; ++i) {
-        rubbish += static_cast<char>(i * 7919 >> 3);
-    }
+    for (int i = 0; i < 70000; ++i) rubbish += static_cast<char>(i * 7919 >> 3);
     EXPECT_EQ(profileValue(rubbish + "\n[Tail]\nk=v\n", "Tail", "k"), "v");
     EXPECT_EQ(profileValue(rubbish, "no such", "k"), Found());
 }

@@ -14,9 +14,7 @@ using namespace std::string_literals;
 
 std::string allBytes() {
     std::string bytes;
-    for (int code = 0; code < 256; ++code) {
-        bytes += static_cast<char>(code);
-    }
+    for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
     return bytes;
 }
 
@@ -97,9 +95,8 @@ TEST(Encoding, AnyUtf16BytesComeBack) {
     std::mt19937 random(11);
     for (int round = 0; round < 500; ++round) {
         std::string bytes = "\xFF\xFE";
-        for (auto size = random() % 12; size > 0; --size) {
+        for (auto size = random() % 12; size > 0; --size)
             bytes += static_cast<char>(random() % 3 == 0 ? 0xD8 + random() % 8 : random());
-        }
         const std::string text = decodeText(bytes, Encoding::Utf16LittleEndian);
         EXPECT_EQ(encodeText(text, Encoding::Utf16LittleEndian), bytes);
     }

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Nothing of the user's desktop, language or settings may reach a test.
+// Nothing of the user's desktop, language or settings may reach a test.
 void isolate(const QTemporaryDir& settings) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
