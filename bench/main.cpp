@@ -13,7 +13,8 @@ int main() {
         bool kept = true;
         for (const auto figure :
              {extractMissingFiles, extractMissingNativeFiles, extractPresentFiles, profileFile,
-              importFavorites, playerList, firstPaint, compressBatch})
+              importFavorites, serverList, playerList, firstPaint, editor, screenshots, openings,
+              compressBatch})
             kept = figure() && kept;
         return kept ? 0 : 1;
     } catch (const std::exception& error) {

@@ -56,9 +56,14 @@ void World::makeFolder(std::string_view gamePath) const {
     fs::create_directories(at(gamePath));
 }
 
-FreshProgram::FreshProgram(World& world)
+Dialogs& noDialogs() {
+    static NoDialogs dialogs;
+    return dialogs;
+}
+
+FreshProgram::FreshProgram(World& world, Dialogs& dialogs)
     : processes_(makeProcesses(world.host(), world.drives(), [] {})),
-      program(world.host(), world.drives(), {dialogs_, sounds_, *processes_, events_},
+      program(world.host(), world.drives(), {dialogs, sounds_, *processes_, events_},
               {"C:\\Tessaro", "tessaro"}) {
     program.settings.Sounds = "0";
     program.gamePaths.UTPath = "C:\\UnrealTournament";

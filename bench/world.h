@@ -20,6 +20,9 @@ class NoDialogs : public Dialogs {
     std::string pickFileToSave(const FilePicker&) override { return {}; }
 };
 
+/// The same one for all who never look at it.
+Dialogs& noDialogs();
+
 class NoSounds : public Sounds {
   public:
     std::string resource(std::string_view) override { return {}; }
@@ -65,13 +68,12 @@ class World {
 
 /// A program as fresh as after its start: nothing that it could remember from an earlier run.
 class FreshProgram {
-    NoDialogs dialogs_;
     NoSounds sounds_;
     JumpingClock events_;
     std::unique_ptr<Processes> processes_;
 
   public:
-    explicit FreshProgram(World& world);
+    explicit FreshProgram(World& world, Dialogs& dialogs = noDialogs());
 
     Program program;
 };

@@ -1,12 +1,25 @@
 # The forms library: all of the project that knows Qt.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Multimedia)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+# What sounds are played with.
+if(WIN32)
+    set(player winmm)
+else()
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Multimedia)
+    set(player Qt6::Multimedia)
+endif()
 
 add_library(tessaro_forms STATIC)
-set_target_properties(tessaro_forms PROPERTIES AUTOMOC ON AUTORCC ON)
+# The first format of resources holds no dates, so that each build gives the same bytes.
+set_target_properties(tessaro_forms PROPERTIES AUTOMOC ON AUTORCC ON
+    AUTORCC_OPTIONS "--format-version;1")
 target_sources(tessaro_forms PRIVATE ${CMAKE_SOURCE_DIR}/resources/tessaro.qrc)
-target_link_libraries(tessaro_forms PUBLIC tessaro_logic Qt6::Widgets PRIVATE Qt6::Multimedia)
+target_link_libraries(tessaro_forms PUBLIC tessaro_logic Qt6::Widgets PRIVATE ${player})
 target_compile_definitions(tessaro_forms PUBLIC
     QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+tessaro_sanitize(tessaro_forms)
+# What most forms include; reading it took them two thirds of their time.
+target_precompile_headers(tessaro_forms PRIVATE
+    <QApplication> <QBoxLayout> <QHeaderView> <QLabel> <QLineEdit> <QMenu> <QMouseEvent> <QPainter> <QPushButton>)
 
 # Not by AUTOUIC: it does not tell Ninja which headers it writes, and a change of an .ui alone came
 # into the program one build late. They go where it wrote them, so that no older one is found first.

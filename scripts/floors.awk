@@ -56,10 +56,26 @@ function is_form(file,   list) {
     return list in only_forms || (list "/" stem_of(file)) in form || file in qt_headers
 }
 
+# One operating system's folder; only there its headers and conditions of the preprocessor are met.
+function system_of(folder) {
+    if (folder ~ /^platform\/(posix|windows)$/) return folder
+    return folder ~ /^kit\/outside\/(multimedia|winmm)$/ ? folder : ""
+}
+function is_of_system(header) {
+    return header ~ /^(sys|linux)\// || header ~ /^(windows|unistd|fcntl|dirent|poll|pwd|spawn)\.h$/
+}
+function read_conditions(file,   line) {
+    while ((getline line < file) > 0) {
+        if (line ~ /^[ \t]*#[ \t]*(if|elif)/) wrong(file " has a condition: " line)
+    }
+    close(file)
+}
+
 function arrow(file, header,   from, to) {
     from = folder_of(file)
     to = folder_of(header)
     if (from == to) return
+    if (system_of(to) != "") wrong(file " includes " header ", which one operating system has.")
     if (floor(to) > floor(from)) wrong(file " includes " header ", which is a floor above it.")
     if (is_tool(from) && is_tool(to) && index(" " shared " ", " " header " ") == 0) {
         wrong(file " includes " header ", which belongs to another tool.")
@@ -79,7 +95,11 @@ function read_source(file,   logic, n, headers, i, header) {
             wrong(file " includes " header ": logic may not, and FORMS does not name it as a form.")
         }
         if (header in known) arrow(file, header)
+        if (is_of_system(header) && system_of(folder_of(file)) == "") {
+            wrong(file " includes " header ", which one operating system has.")
+        }
     }
+    if (system_of(folder_of(file)) == "") read_conditions(file)
 }
 
 # Follows the arrows from a folder; one that leads to a folder on the way closes a ring.

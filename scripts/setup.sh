@@ -9,7 +9,11 @@ font_packages=(fonts-dejavu-core)
 screen_packages=(xvfb xauth "${font_packages[@]}")
 test_packages=("${tool_packages[@]}" "${font_packages[@]}" libgtest-dev libgmock-dev)
 bench_packages=("${tool_packages[@]}" "${screen_packages[@]}" libglib2.0-dev pkg-config)
-check_packages=(clang libclang-rt-dev clang-format clang-tidy)
+package_packages=(dpkg-dev file)
+cross_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev)
+qt_source_packages=(qt6-base-dev-tools dpkg-dev xz-utils perl python3)
+wine_packages=(wine wine64 "${screen_packages[@]}")
+check_packages=(clang clang-format clang-tidy desktop-file-utils appstream)
 
 # install PACKAGE...: installs those that are missing, as root or through sudo. Says what that costs,
 # and what to do where it is not allowed.

@@ -3,13 +3,15 @@
 #include "core/MainFrm.h"
 #include "kit/forms/handler.h"
 #include "kit/look/style.h"
+#include "platform/files/programfolder.h"
 
 namespace tessaro {
 namespace {
 
 ProgramFile runningProgram(Host& host, const DriveMap& drives) {
     const HostPath file = executablePath();
-    return {Paths(host, drives).toGame(file.parent_path()), file.stem().string()};
+    const HostPath folder = programFolder(host, file, userDataFolder());
+    return {Paths(host, drives).toGame(folder), file.stem().string()};
 }
 
 }  // namespace

@@ -87,7 +87,7 @@ std::string clsINI::getVersion(std::string_view INIFileLoc) {
 }
 
 std::string clsINI::getSections(std::string_view INIFileLoc) {
-    const std::string file = fileOr(INIFileLoc);
+    const std::string_view file = fileOr(INIFileLoc);
     ensureIniFile();
     const std::string listing = profile_.getPrivateProfileString(
         std::nullopt, std::nullopt, DefaultReturnValue, listingSize, file);
@@ -103,8 +103,8 @@ Int16 clsINI::getNumberOfSections(std::string_view INIFileLoc) {
 }
 
 std::string clsINI::getKeysInSection(std::string_view section, std::string_view INIFileLoc) {
-    const std::string file = fileOr(INIFileLoc);
-    const std::string place = sectionOr(section);
+    const std::string_view file = fileOr(INIFileLoc);
+    const std::string_view place = sectionOr(section);
     ensureIniFile();
     // One try: of a listing longer than the buffer the rest is lost, and callers live with that.
     const std::string listing = profile_.getPrivateProfileString(
@@ -119,8 +119,8 @@ Int16 clsINI::getNumberOfKeysInSection(std::string_view section, std::string_vie
 
 std::string clsINI::getKeyValue(std::string_view key, std::string_view defaultValue,
                                 std::string_view section, std::string_view INIFileLoc) {
-    const std::string file = fileOr(INIFileLoc);
-    const std::string place = sectionOr(section);
+    const std::string_view file = fileOr(INIFileLoc);
+    const std::string_view place = sectionOr(section);
     std::string fallback(defaultValue.empty() ? notSet : defaultValue);
     ensureIniFile();
     // Asked with an empty default, so that a key that is absent and one without a value look the
@@ -137,7 +137,7 @@ void clsINI::deleteSection(std::string_view section, std::string_view INIFileLoc
 }
 
 void clsINI::deleteAllSections(std::string_view INIFileLoc) {
-    const std::string file = fileOr(INIFileLoc);
+    const std::string_view file = fileOr(INIFileLoc);
     // The names come from the object's own file whatever file is given: of another one only the
     // sections go that stand in both.
     for (const std::string& name : pieces(getSections())) {
@@ -157,8 +157,8 @@ void clsINI::deleteKeyValue(std::string_view key, std::string_view section,
 
 void clsINI::renameSection(std::string_view NewSection, std::string_view section,
                            std::string_view INIFileLoc) {
-    const std::string file = fileOr(INIFileLoc);
-    const std::string place = sectionOr(section);
+    const std::string_view file = fileOr(INIFileLoc);
+    const std::string_view place = sectionOr(section);
     ensureIniFile();
     // Keys behind the end of the listing are lost with the old section, and a key without a value
     // arrives with the placeholder that its reading gave it.
@@ -171,8 +171,8 @@ void clsINI::renameSection(std::string_view NewSection, std::string_view section
 
 void clsINI::renameKey(std::string_view currentKey, std::string_view NewKey,
                        std::string_view section, std::string_view INIFileLoc) {
-    const std::string file = fileOr(INIFileLoc);
-    const std::string place = sectionOr(section);
+    const std::string_view file = fileOr(INIFileLoc);
+    const std::string_view place = sectionOr(section);
     ensureIniFile();
     const std::string value = getKeyValue(currentKey, {}, place, file);
     setKeyValue(NewKey, value, place, file);
@@ -182,20 +182,19 @@ void clsINI::renameKey(std::string_view currentKey, std::string_view NewKey,
 // Always the object's own file, also in a call that names another: a foreign file is not created by
 // reading it, and the own one is.
 void clsINI::ensureIniFile() {
-    files_.openAppend(sharedFileNumber, inifile_);
-    files_.close(sharedFileNumber);
+    files_.touch(sharedFileNumber, inifile_);
 }
 
 std::string clsINI::fileNameOf(std::string_view path) {
     return std::string(path.substr(path.rfind('\\') + 1));
 }
 
-std::string clsINI::fileOr(std::string_view INIFileLoc) const {
-    return INIFileLoc.empty() ? inifile_ : std::string(INIFileLoc);
+std::string_view clsINI::fileOr(std::string_view INIFileLoc) const {
+    return INIFileLoc.empty() ? inifile_ : INIFileLoc;
 }
 
-std::string clsINI::sectionOr(std::string_view section) const {
-    return section.empty() ? sectionName : std::string(section);
+std::string_view clsINI::sectionOr(std::string_view section) const {
+    return section.empty() ? sectionName : section;
 }
 
 }  // namespace tessaro

@@ -73,8 +73,8 @@ class clsINI {
   private:
     void ensureIniFile();
     static std::string fileNameOf(std::string_view path);
-    std::string fileOr(std::string_view INIFileLoc) const;
-    std::string sectionOr(std::string_view section) const;
+    std::string_view fileOr(std::string_view INIFileLoc) const;
+    std::string_view sectionOr(std::string_view section) const;
 
     ProfileCalls& profile_;
     FileTable& files_;

@@ -1,5 +1,7 @@
 #include "editor/boxtext.h"
 
+#include <algorithm>
+
 #include "platform/text/utf8.h"
 
 namespace tessaro {
@@ -16,13 +18,15 @@ bool isLow(char32_t unit) {
     return unit >= 0xDC00 && unit < 0xE000;
 }
 
-void append(std::u16string& text, char32_t character) {
+// Takes one unit or two. Gives where the next one goes.
+char16_t* put(char16_t* place, char32_t character) {
     if (character < 0x10000) {
-        text += static_cast<char16_t>(character);
-        return;
+        *place++ = static_cast<char16_t>(character);
+        return place;
     }
-    text += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10U));
-    text += static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FFU));
+    *place++ = static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10U));
+    *place++ = static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FFU));
+    return place;
 }
 
 // The next character, or half of a pair. `position` moves behind it.
@@ -47,8 +51,9 @@ char16_t nextStray(std::string_view text, std::size_t& position, Encoding encodi
 }
 
 bool isLineEnd(char16_t unit) {
-    // The last three are what the box uses itself to tell lines apart.
-    return unit == u'\n' || unit == u'\r' || unit == 0x2029 || unit == 0xFDD0 || unit == 0xFDD1;
+    if (unit < 0x2029) return unit == u'\n' || unit == u'\r';
+    // What the box uses itself to tell lines apart.
+    return unit == 0x2029 || unit == 0xFDD0 || unit == 0xFDD1;
 }
 
 }  // namespace
@@ -58,24 +63,25 @@ bool holdsPairs(Encoding encoding) {
 }
 
 std::u16string toBox(std::string_view text, Encoding encoding) {
-    std::u16string shown;
-    shown.reserve(text.size());
+    std::u16string shown(text.size(), u'\0');  // nothing takes more units than bytes
+    char16_t* place = shown.data();
     for (std::size_t position = 0; position < text.size();) {
         const auto byte = static_cast<unsigned char>(text[position]);
         if (byte < 0x80) {
-            shown += static_cast<char16_t>(byte);
+            *place++ = byte;
             ++position;
             continue;
         }
         std::size_t next = position;
         const char32_t character = nextCharacter(text, next);
         if (next == position + 1) {
-            shown += nextStray(text, position, encoding);
+            *place++ = nextStray(text, position, encoding);
         } else {
-            append(shown, character);
+            place = put(place, character);
             position = next;
         }
     }
+    shown.resize(static_cast<std::size_t>(place - shown.data()));
     return shown;
 }
 
@@ -101,6 +107,12 @@ std::string readable(std::u16string_view text) {
         appendCharacter(characters, isHigh(unit) || isLow(unit) ? replacement : unit);
     }
     return characters;
+}
+
+std::size_t nextLineEnd(std::u16string_view text, std::size_t position) {
+    const auto* from = text.data() + position;
+    return static_cast<std::size_t>(std::find_if(from, text.data() + text.size(), isLineEnd) -
+                                    text.data());
 }
 
 std::size_t lineEndAt(std::u16string_view text, std::size_t position) {

@@ -24,6 +24,9 @@ std::string fromBox(std::u16string_view text, Encoding encoding);
 /// A text of the box in valid UTF-8: what is no character becomes U+FFFD.
 std::string readable(std::u16string_view text);
 
+/// Where the first line end from `position` on begins, or the text's end.
+std::size_t nextLineEnd(std::u16string_view text, std::size_t position);
+
 /// The size of the line end at `position`: 2 for CR LF, 1 for any other that the box takes for one,
 /// 0 where there is none.
 std::size_t lineEndAt(std::u16string_view text, std::size_t position);

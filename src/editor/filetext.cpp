@@ -33,14 +33,14 @@ std::string FileText::text(const BoxLine& box) const {
 
 std::vector<FileText::Piece> FileText::pieces(const BoxLine& box) const {
     const auto lines = origins_.recognised(loaded_, box);
-    std::u16string_view end = firstEnd(lines);
+    LineOrigin above = firstWithEnd(lines);
     std::vector<Piece> parts(1);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const LineOrigin& origin = lines[i];
         const bool last = i + 1 == lines.size();
-        if (hasEnd(origin)) end = loaded_.lineEnd(origin.line);
+        if (hasEnd(origin)) above = origin;
         if (!origin.untouched() || hasEnd(origin) == last) {
-            parts.back().typed.append(box(i)).append(last ? std::u16string_view() : end);
+            parts.back().typed.append(box(i)).append(last ? std::u16string_view() : endOf(above));
         } else if (parts.back().typed.empty() && parts.back().to == origin.line) {
             ++parts.back().to;
         } else {
@@ -54,11 +54,15 @@ bool FileText::hasEnd(const LineOrigin& origin) const {
     return origin.known() && !loaded_.isLast(origin.line);
 }
 
-// How new lines at the top end, with no line above.
-std::u16string_view FileText::firstEnd(const std::vector<LineOrigin>& lines) const {
+// By it end new lines at the top, which have no line above.
+LineOrigin FileText::firstWithEnd(const std::vector<LineOrigin>& lines) const {
     const auto first =
         std::ranges::find_if(lines, [this](const LineOrigin& line) { return hasEnd(line); });
-    return first == lines.end() ? usualEnd : loaded_.lineEnd(first->line);
+    return first == lines.end() ? LineOrigin() : *first;
+}
+
+std::u16string_view FileText::endOf(const LineOrigin& origin) const {
+    return origin.known() ? loaded_.lineEnd(origin.line) : usualEnd;
 }
 
 std::u16string FileText::joined(const std::vector<Piece>& pieces) const {

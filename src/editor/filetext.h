@@ -41,7 +41,8 @@ class FileText {
 
     std::vector<Piece> pieces(const BoxLine& box) const;
     bool hasEnd(const LineOrigin& origin) const;
-    std::u16string_view firstEnd(const std::vector<LineOrigin>& lines) const;
+    LineOrigin firstWithEnd(const std::vector<LineOrigin>& lines) const;
+    std::u16string_view endOf(const LineOrigin& origin) const;
     std::u16string joined(const std::vector<Piece>& pieces) const;
     std::optional<std::string> spliced(const std::vector<Piece>& pieces) const;
 

@@ -38,15 +38,8 @@ inieditor::inieditor(Forms& forms, Program& program, EditorMemory& memory)
 inieditor::~inieditor() = default;
 
 void inieditor::setupLabels() {
-    // Beside the frame's plate: the menus' places lie above the form's content.
-    int left = leftimg->maximumWidth() + 1;
-    for (QToolButton* label : {ui_->fakefile, ui_->fakedit}) {
-        label->setParent(this);
-        label->adjustSize();
-        label->move(left, pixels(menuTop) - label->height());
-        left += label->width();
-    }
-    setMinimumWidth(left * 5);  // the plate leaves a fifth on either side
+    for (QToolButton* label : {ui_->fakefile, ui_->fakedit}) label->setParent(this);
+    placeLabels();
     setTabOrder(ui_->Text1, ui_->fakefile);
     setTabOrder(ui_->fakefile, ui_->fakedit);
     setTabOrder(ui_->fakedit, CommandX);
@@ -56,11 +49,27 @@ void inieditor::setupLabels() {
        [this] { popUp(forms().get<inieditorpopup>().mnueditini(), editMenuLeft); });
 }
 
+// Beside the frame's plate, since the menus' places lie above the form's content.
+void inieditor::placeLabels() {
+    int left = leftimg->maximumWidth() + 1;
+    for (QToolButton* label : {ui_->fakefile, ui_->fakedit}) {
+        label->adjustSize();
+        label->move(left, pixels(menuTop) - label->height());
+        left += label->width();
+    }
+    setMinimumWidth(left * 5);  // the plate leaves a fifth on either side
+}
+
 void inieditor::popUp(QMenu& menu, double left) {
     // The menu belongs to a form that is never shown; some desktops want a visible owner.
     menu.winId();
     menu.windowHandle()->setTransientParent(windowHandle());
     menu.popup(mapToGlobal(QPoint(pixels(left), pixels(menuTop))));
+}
+
+void inieditor::changeEvent(QEvent* event) {
+    SkinnedForm::changeEvent(event);
+    if (event->type() == QEvent::FontChange) placeLabels();
 }
 
 void inieditor::Load() {

@@ -31,8 +31,12 @@ class inieditor : public SkinnedForm, private EditorView {
     void select(std::size_t start, std::size_t length);
     void focusText();
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     void setupLabels();
+    void placeLabels();
     void popUp(QMenu& menu, double left);
 
     void showOpenedFile(const std::string& openedini, const std::string& title) override;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "editor/boxtext.h"
+#include "platform/text/utf8.h"
 
 namespace tessaro {
 namespace {
@@ -19,21 +20,22 @@ LoadedFile::LoadedFile(std::string bytes)
     : bytes_(std::move(bytes)), encoding_(detectEncoding(bytes_)) {
     std::string_view whole = bytes_;
     whole.remove_suffix(oddBytes(whole, encoding_));
-    text_ = toBox(decodeText(whole, encoding_), encoding_);
+    // Most files of the game are plain ASCII, which reads the same in all 8-bit encodings.
+    text_ = isAsciiText(whole) ? toBox(whole, encoding_)
+                               : toBox(decodeText(whole, encoding_), encoding_);
     findLines();
 }
 
 void LoadedFile::findLines() {
     Start start{markOf(encoding_).size(), 0};
-    starts_.push_back(start);
-    for (std::size_t unit = 0; unit < text_.size();) {
-        const std::size_t end = lineEndAt(text_, unit);
-        unit += end == 0 ? 1 : end;
-        if (end == 0) continue;
-        start = {start.byte + bytesOf(start.unit, unit - start.unit), unit};
+    std::size_t end = 0;
+    do {
         starts_.push_back(start);
-    }
-    starts_.push_back({start.byte + bytesOf(start.unit, text_.size() - start.unit), text_.size()});
+        end = nextLineEnd(text_, start.unit);
+        const std::size_t next = end + lineEndAt(text_, end);
+        start = {start.byte + bytesOf(start.unit, next - start.unit), next};
+    } while (end < text_.size());
+    starts_.push_back(start);
 }
 
 std::size_t LoadedFile::bytesOf(std::size_t unit, std::size_t count) const {

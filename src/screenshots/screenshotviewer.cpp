@@ -11,10 +11,9 @@ Int16 wholeTwips(double twips) {
     return std::llround(twips);
 }
 
-// In 16 bits, as `full` is.
-Int16 less(Int16 full, double frame) {
-    full += -static_cast<int>(frame);
-    return full;
+// In 16 bits, as `size` is.
+double withoutFrame(Int16 size, double frame) {
+    return size += -static_cast<int>(frame);
 }
 
 }  // namespace
@@ -119,7 +118,7 @@ void ScreenshotViewer::enterFullScreen() {
 void ScreenshotViewer::leaveFullScreen() {
     view_.setFormSize({double(oldx_), double(oldy_)});
     view_.setPictureSize(
-        {double(less(oldx_, windowFrame.width)), double(less(oldy_, windowFrame.height))});
+        {withoutFrame(oldx_, windowFrame.width), withoutFrame(oldy_, windowFrame.height)});
     view_.repaintForm();
     view_.center();
     view_.setStretch(false);

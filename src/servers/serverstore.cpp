@@ -60,7 +60,7 @@ void importFavorite(const std::string& favorite, ServerNames& names, ListItems& 
     const std::string name = required(fields[0]);
     if (names.ServerInList(name) == Yes) return;
     const std::size_t row = list.add(name);
-    names.add(name);
+    names.add(list.item(row).text);
     // Both go in at the first place, so the address pushes the port to the second.
     list.addSubItem(row, 1, required(fields[2]));
     list.addSubItem(row, 1, required(fields[1]));
@@ -81,9 +81,11 @@ ServerRecord serverAt(const ListItems& list, std::size_t row) {
 }
 
 void addServer(ListItems& list, const ServerRecord& server) {
-    const std::size_t row = list.add(server.ServerName);
-    list.addSubItem(row, 1, server.IP);
-    list.addSubItem(row, 2, server.Port);
+    ListItem row{server.ServerName, {}};
+    row.subItems.reserve(2);
+    row.subItems.push_back(server.IP);
+    row.subItems.push_back(server.Port);
+    list.addRow(std::move(row));
 }
 
 void LoadServerList(Program& program, ListItems& list) {
@@ -103,9 +105,11 @@ void SaveServerList(Program& program, const ListItems& list) {
     const Int16 count = static_cast<long long>(list.count());
     const int number = program.table.freeNumber();
     program.table.openOutput(number, serverFile(program));
+    std::string line;
     for (int i = 1; i <= count; ++i) {
         const ServerRecord server = serverAt(list, static_cast<std::size_t>(i));
-        program.table.printLine(number, server.ServerName + "\\" + server.IP + "\\" + server.Port);
+        line.assign(server.ServerName).append("\\").append(server.IP).append("\\");
+        program.table.printLine(number, line.append(server.Port));
     }
     program.table.close(number);
 }

@@ -37,17 +37,18 @@ void LoadServerList(Program& program, ListItems& list);
 /// what writing raises; the file is then as it was.
 void SaveServerList(Program& program, const ListItems& list);
 
-/// The names in a list, gathered once since an import asks for each of thousands.
+/// The names in a list, gathered once since an import asks for each of thousands. They are looked
+/// at where they are, so none may change or go meanwhile.
 class ServerNames {
   public:
     explicit ServerNames(const ListItems& list);
 
-    void add(std::string name) { names_.insert(std::move(name)); }
+    void add(std::string_view name) { names_.insert(name); }
     /// Whether a row bears exactly that name, case included.
-    YesNo ServerInList(const std::string& name) const { return yesNo(names_.contains(name)); }
+    YesNo ServerInList(std::string_view name) const { return yesNo(names_.contains(name)); }
 
   private:
-    std::unordered_set<std::string> names_;
+    std::unordered_set<std::string_view> names_;
 };
 
 /// Adds the favourites of the game's own server browser whose names are not in the list yet. Writes

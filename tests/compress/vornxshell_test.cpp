@@ -59,9 +59,8 @@ TEST_F(VornxShell, NeitherWindowsMENorTheNTFamilyGoThroughTheShell) {
     runUcc(SystemVersion{4, 90, 3000, 1, "", ""});
     runUcc(SystemVersion{5, 1, 2600, 2, "", ""});
     runUcc(test::anotherSystem);
-    for (const Started& run : world_.processes.runs) {
+    for (const Started& run : world_.processes.runs)
         EXPECT_TRUE(run.commandLine.starts_with("C:")) << run.commandLine;
-    }
 }
 
 TEST_F(VornxShell, ASystemThatDoesNotSayItsVersionTakesTheDirectRoute) {

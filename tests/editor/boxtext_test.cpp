@@ -74,6 +74,14 @@ TEST(BoxText, ReadableTextHasNoHalves) {
               "b\xF0\x9F\x8E\xAE");
 }
 
+TEST(BoxText, TheNextLineEndIsTheFirstOfAnyKindFromThere) {
+    const std::u16string text = u"ab\r\n\u2028c\rd\n\n\u2029e\xFDD0\xFDD1\u2030";
+    std::string found;
+    for (std::size_t i = 0; i <= text.size(); ++i)
+        found += std::to_string(nextLineEnd(text, i)) + " ";
+    EXPECT_EQ(found, "2 2 2 3 6 6 6 8 8 9 10 12 12 13 15 15 ");
+}
+
 TEST(BoxText, ACrLfIsOneLineEnd) {
     const std::u16string text = u"a\r\nb\rc\nd\n\re";
     std::string sizes;

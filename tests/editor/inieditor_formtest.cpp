@@ -323,6 +323,24 @@ TEST_F(EditorForm, ALongNameIsCutOnThePlateAndToldWhole) {
     EXPECT_EQ(fromQt(form().Title->toolTip()), name);
 }
 
+TEST_F(EditorForm, AnotherFontIsNoChangeOfTheTextAndLeavesTheLabelsRoom) {
+    shown();
+    choose("mnuedituserini");
+    QFont font = form().font();
+    font.setPointSize(2 * font.pointSize());
+    form().setFont(font);
+    text().setFont(font);
+    serveEvents();
+    const auto& file = control<QWidget>(form(), "fakefile");
+    const auto& edit = control<QWidget>(form(), "fakedit");
+    EXPECT_GE(file.width(), file.sizeHint().width());
+    EXPECT_FALSE(file.geometry().intersects(edit.geometry()));
+    EXPECT_FALSE(edit.geometry().intersects(form().timg->geometry()));
+    EXPECT_EQ(edit.geometry().bottom() + 1, pixels(650));
+    close();
+    EXPECT_FALSE(isOpen());
+}
+
 TEST_F(EditorForm, EveryControlHasANameForScreenReaders) {
     shown();
     for (QWidget* widget : form().findChildren<QWidget*>()) {

@@ -166,6 +166,7 @@ TEST_F(Archive, AGamesFileThatIsReadOnlyOrAFolderIsRefusedBeforeAnythingIsWritte
     fs::permissions(disk.at(userIni), fs::perms(0444));
     EXPECT_EQ(archivingError(), errors::PathFileAccess);
     program.table.close(2);
+    fs::permissions(disk.at(userIni), fs::perms(0644));
     fs::remove(disk.at(userIni));
     disk.makeFolder(userIni);
     EXPECT_EQ(archivingError(), errors::PathFileAccess);
@@ -190,10 +191,10 @@ TEST_F(Archive, ACopiesFolderThatCannotBeWrittenIsRefused) {
 
 TEST_F(Archive, TheWaitForTheCopyHasNoEndAndTakesNoInput) {
     const HostPath copy = disk.at(copyOf("userini0.bak"));
-    host.afterRename = [&](const HostPath& file) { fs::rename(file, file.native() + ".away"); };
+    host.afterRename = [&](const HostPath& file) { fs::rename(file, file.string() + ".away"); };
     int turns = 0;
     events.onBlocked = [&] {
-        if (++turns == 500) fs::rename(copy.native() + ".away", copy);
+        if (++turns == 500) fs::rename(copy.string() + ".away", copy);
     };
     userMan.CopyUserIniTo(copyOf("userini0.bak"));
     EXPECT_EQ(turns, 500);

@@ -24,7 +24,7 @@ class Swap : public ArchiveFixture {
         return errorOf([&] { swap(); });
     }
     bool gameHasItsFile() const { return disk.exists(userIni); }
-    static HostPath away(const HostPath& file) { return file.native() + ".away"; }
+    static HostPath away(const HostPath& file) { return file.string() + ".away"; }
 };
 
 TEST_F(Swap, TheSelectedPlayersCopyTakesThePlaceOfTheGamesFileByteForByte) {

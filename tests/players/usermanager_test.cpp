@@ -73,6 +73,7 @@ TEST_F(UserManagers, OpeningUsesAnInstanceOfItsOwn) {
 TEST_F(UserManagers, AGamesFileThatCannotBeWrittenIsRaisedAtOpening) {
     fs::permissions(disk.at(userIni), fs::perms(0444));
     EXPECT_EQ(errorOf([&] { manager.open(); }), errors::PathFileAccess);
+    fs::permissions(disk.at(userIni), fs::perms(0644));
     fs::remove(disk.at(userIni));
     disk.makeFolder(userIni);
     EXPECT_EQ(errorOf([&] { manager.open(); }), errors::PathFileAccess);

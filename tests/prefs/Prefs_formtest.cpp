@@ -182,9 +182,8 @@ TEST_F(PrefsForm, EverythingThatIsSetIsSaved) {
     type("Text3", "DM-Own.unr");
     click("Command6");
     for (const char* line : {"Sounds=0", "AutoSave=1", "ShowSplash=1", "Skin=1", "TimesUsed=7",
-                             "UTPath=C:\\UT", "VORNX=C:\\Taken"}) {
+                             "UTPath=C:\\UT", "VORNX=C:\\Taken"})
         EXPECT_TRUE(holds(settingsFile, line)) << line;
-    }
     EXPECT_TRUE(holds(gameIni, "LocalMap=DM-Own.unr"));
     EXPECT_TRUE(holds(gameIni, "PurgeCacheDays=14"));
     EXPECT_TRUE(holds(userIni, "HasBeatenGame=True"));

@@ -69,9 +69,8 @@ TEST_F(PrefsLook, TheNumberOfStartsHasNoLeadingZeros) {
 
 TEST_F(PrefsLook, TheHiddenBoxesKeepTheirSettingsOutOfSight) {
     openOnGame();
-    for (const char* name : {"Text5", "Text6", "Text7"}) {
+    for (const char* name : {"Text5", "Text6", "Text7"})
         EXPECT_FALSE(box(name).isVisible()) << name;
-    }
     EXPECT_EQ(textOf("Text5"), "C:\\Taken");
     EXPECT_EQ(textOf("Text6"), "Somebody");
     EXPECT_EQ(textOf("Text7"), "Courier");
@@ -83,16 +82,14 @@ TEST_F(PrefsLook, WithoutAGameTheDialogIsAsDesigned) {
     EXPECT_TRUE(control("Command2").isEnabled());
     EXPECT_FALSE(control("Command6").isEnabled());
     EXPECT_EQ(textOf("Text3"), "UTCredits.unr");
-    for (const char* name : {"Option3", "Option4", "Option5", "Option6", "Option7", "Option8"}) {
+    for (const char* name : {"Option3", "Option4", "Option5", "Option6", "Option7", "Option8"})
         EXPECT_FALSE(control(name).isChecked()) << name;
-    }
 }
 
 TEST_F(PrefsLook, ADialogThatStoppedShowsTheDefaultsOfTheProgram) {
     openWithoutGame();
-    for (const char* name : {"Check1", "Check2", "Check3"}) {
+    for (const char* name : {"Check1", "Check2", "Check3"})
         EXPECT_TRUE(control(name).isChecked()) << name;
-    }
     EXPECT_EQ(textOf("Text5"), "C:\\UTMaps");
     EXPECT_EQ(textOf("Text6"), "Player");
     EXPECT_EQ(textOf("Text7"), "MS Sans");
@@ -153,9 +150,8 @@ TEST_F(PrefsLook, EachButtonHasItsLetter) {
                                                        {"Command3", Qt::Key_L},
                                                        {"Command5", Qt::Key_C},
                                                        {"Command6", Qt::Key_O}};
-    for (const auto& [name, letter] : letters) {
+    for (const auto& [name, letter] : letters)
         EXPECT_EQ(control(name).shortcut(), QKeySequence(Qt::ALT | letter)) << name;
-    }
 }
 
 TEST_F(PrefsLook, TabLeadsThroughTheDialogFromTheTop) {

@@ -93,9 +93,8 @@ TEST(SampleCache, HasOneTextAndOneExtensionInCapitals) {
 }
 
 TEST(SampleCache, HasAwkwardTrueNames) {
-    for (const char* piece : {" ", "][", "'", "&", "+", ",", "=", ";", "!!", "é", "ß", "€"}) {
+    for (const char* piece : {" ", "][", "'", "&", "+", ",", "=", ";", "!!", "é", "ß", "€"})
         EXPECT_TRUE(anyTrueNameHolds(piece)) << piece;
-    }
     EXPECT_TRUE(std::any_of(lines().begin(), lines().end(),
                             [](const CacheFile& line) { return line.trueName.size() == 100; }));
 }

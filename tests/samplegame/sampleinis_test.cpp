@@ -112,9 +112,8 @@ TEST(SampleIni, FavouritesHoldADoubledNameABlankOneAndOneWithExtraFields) {
 
 TEST(SampleIni, NumberedLinesCountUpWithoutAGap) {
     const Ini ini = read(unrealTournamentIni());
-    for (int number = 0; number < 255; ++number) {
+    for (int number = 0; number < 255; ++number)
         EXPECT_EQ(ini.keys.count("IPPolicies[" + std::to_string(number) + "]"), 1U) << number;
-    }
     EXPECT_EQ(ini.keys.count("IPPolicies[255]"), 0U);
 }
 

@@ -6,6 +6,7 @@
 #include "tools/samplegame/bitmap.h"
 #include "tools/samplegame/package.h"
 #include "tools/samplegame/rng.h"
+#include "tools/ucc/uzfile.h"
 
 namespace tessaro::sample {
 namespace {
@@ -26,9 +27,8 @@ TEST(SampleRng, NumbersStayInTheirRange) {
 
 TEST(SampleRng, FillerIsAsLongAsAskedEvenBeyondItsBlock) {
     Rng rng(7);
-    for (const std::size_t size : {0U, 1U, 1'000U, 3'000'000U}) {
+    for (const std::size_t size : {0U, 1U, 1'000U, 3'000'000U})
         EXPECT_EQ(rng.filler(size).size(), size);
-    }
 }
 
 TEST(SampleRng, FillerDiffersFromCallToCall) {
@@ -64,6 +64,17 @@ TEST(SamplePackage, SmallestIsAHeaderAlone) {
     EXPECT_THROW(packageBytes(Guid{}, 63, rng), std::invalid_argument);
 }
 
+TEST(SamplePackage, LosesAThirdToAHalfWhenItIsPacked) {
+    Rng rng(7);
+    for (const std::size_t size : {20'000U, 3'000'000U}) {
+        const ucc::Package package{"DM-Example.unr", packageBytes(Guid{}, size, rng)};
+        const double saved =
+            1 - static_cast<double>(ucc::compressed(package).size()) / static_cast<double>(size);
+        EXPECT_GT(saved, 1.0 / 3) << size;
+        EXPECT_LT(saved, 1.0 / 2) << size;
+    }
+}
+
 TEST(SampleBmp, HeaderSaysTwentyFourBitsBottomUp) {
     Rng rng(7);
     const std::string bytes = screenshotBmp(640, 480, rng);
@@ -93,9 +104,7 @@ TEST(SampleBmp, LastRowOfTheFileIsOneColourOfSky) {
     Rng rng(7);
     const std::string bytes = screenshotBmp(64, 48, rng);
     const std::string row = bytes.substr(bytes.size() - 192);
-    for (std::size_t x = 0; x < 64; ++x) {
-        EXPECT_EQ(row.substr(3 * x, 3), row.substr(0, 3)) << x;
-    }
+    for (std::size_t x = 0; x < 64; ++x) EXPECT_EQ(row.substr(3 * x, 3), row.substr(0, 3)) << x;
     EXPECT_NE(bytes.substr(54, 192), row);
 }
 

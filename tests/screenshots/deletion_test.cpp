@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "screenshots/viewerfixture.h"
+#include "support/disk.h"
 
 namespace tessaro::test {
 namespace {
@@ -142,6 +143,7 @@ TEST_F(DeletingAShot, BesideADamagedOneFailsOnceTheFileIsGone) {
 }
 
 TEST_F(DeletingAShot, TakesTheFileOfExactlyThatLetterCase) {
+    if (!hasCases()) GTEST_SKIP() << noCases;
     open({"shot0001.bmp", "SHOT0001.BMP", "Shot0001.bmp"}, 1);
     const std::string name = viewer.List1.selectedName();
     confirm();
@@ -152,6 +154,7 @@ TEST_F(DeletingAShot, TakesTheFileOfExactlyThatLetterCase) {
 }
 
 TEST_F(DeletingAShot, AnAsteriskInItsNameTakesNoOtherWithIt) {
+    if (!hasOddNames()) GTEST_SKIP() << noOddNames;
     open({"Shot*.bmp", "Shot0001.bmp", "Shot0002.bmp"}, 2);
     confirm();
     deletion();

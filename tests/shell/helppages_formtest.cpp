@@ -108,20 +108,22 @@ Texts listedCommands(const char* file) {
 // The names of all places in a page that a link can jump to, as the browser sees them.
 Texts targetsShown(const QTextDocument& document) {
     Texts targets;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment)
             for (const QString& name : fragment.fragment().charFormat().anchorNames())
                 targets.insert(fromQt(name));
+    }
     return targets;
 }
 
 Texts jumpsShown(const QTextDocument& document) {
     Texts jumps;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
             const QString address = fragment.fragment().charFormat().anchorHref();
             if (!address.isEmpty()) jumps.insert(fromQt(address));
         }
+    }
     return jumps;
 }
 

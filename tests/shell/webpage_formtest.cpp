@@ -155,11 +155,12 @@ double contrast(const QColor& letters, const QColor& ground) {
 }
 
 QColor colourOfFirstLink(const QTextDocument& document) {
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
             const QTextCharFormat format = fragment.fragment().charFormat();
             if (!format.anchorHref().isEmpty()) return format.foreground().color();
         }
+    }
     return {};
 }
 

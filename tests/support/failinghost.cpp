@@ -9,7 +9,7 @@ namespace tessaro::test {
 namespace {
 
 bool contains(const HostPath& path, const std::string& part) {
-    return path.string().find(part) != std::string::npos;
+    return path.generic_string().find(part) != std::string::npos;
 }
 
 }  // namespace

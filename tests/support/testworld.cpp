@@ -7,6 +7,9 @@
 #include <random>
 #include <stdexcept>
 
+#include "platform/files/hostpath.h"
+#include "support/disk.h"
+
 namespace tessaro::test {
 
 namespace fs = std::filesystem;
@@ -44,17 +47,19 @@ TestWorld::TestWorld()
 DriveMap TestWorld::makePrefix(const HostPath& prefix) {
     fs::create_directories(prefix / "drive_c");
     fs::create_directories(prefix / "dosdevices");
-    fs::create_directory_symlink("../drive_c", prefix / "dosdevices" / "c:");
-    fs::create_directory_symlink("/", prefix / "dosdevices" / "z:");
+    if (hasLinks()) {
+        fs::create_directory_symlink("../drive_c", prefix / "dosdevices" / "c:");
+        fs::create_directory_symlink("/", prefix / "dosdevices" / "z:");
+    }
     fs::current_path(prefix / "drive_c");
-    return {{'C', prefix / "drive_c"}, {'Z', "/"}};
+    return {{'C', prefix / "drive_c"}, {'Z', prefix.root_path()}};
 }
 
 HostPath TestWorld::at(std::string_view gamePath) const {
     std::string tail(gamePath.substr(gamePath.find(':') + 1));
     std::replace(tail.begin(), tail.end(), '\\', '/');
     tail.erase(0, tail.find_first_not_of('/'));
-    return tail.empty() ? driveC() : driveC() / tail;
+    return tail.empty() ? driveC() : (driveC() / hostPath(tail)).make_preferred();
 }
 
 void TestWorld::writeHost(const HostPath& file, std::string_view bytes) {

@@ -113,9 +113,8 @@ TEST_F(UccTest, ConsoleTellsWhatIsDone) {
     const std::string compressing = printed("compress \"C:\\Maps\\DM-A b][.unr\"");
     for (const char* line :
          {"Executing Class IpDrv.CompressCommandlet\n", "Compressing DM-A b][.unr (5003 bytes)\n",
-          "Compressed DM-A b][.unr -> DM-A b][.unr.uz ("}) {
+          "Compressed DM-A b][.unr -> DM-A b][.unr.uz ("})
         EXPECT_NE(compressing.find(line), std::string::npos) << compressing;
-    }
     const std::string decompressing = printed("decompress \"C:\\Maps\\DM-A b][.unr.uz\"");
     EXPECT_NE(decompressing.find("Decompressed DM-A b][.unr.uz -> DM-A b][.unr\n"),
               std::string::npos);

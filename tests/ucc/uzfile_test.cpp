@@ -22,9 +22,8 @@ TEST(UzFileTest, PackageComesBackAsItWas) {
     std::string bytes;
     for (std::uint32_t i = 0; i < 300'000; ++i) bytes += static_cast<char>(i * i >> 7U);
     for (const Package& package : {Package{"DM-A b][.unr", bytes}, Package{"Empty.u", ""},
-                                   Package{"Höhle.u", "x"}, Package{std::string(9000, 'n'), "x"}}) {
+                                   Package{"Höhle.u", "x"}, Package{std::string(9000, 'n'), "x"}})
         EXPECT_EQ(decompressed(compressed(package)), package);
-    }
 }
 
 TEST(UzFileTest, RepeatedContentGetsSmaller) {
@@ -33,9 +32,8 @@ TEST(UzFileTest, RepeatedContentGetsSmaller) {
 
 TEST(UzFileTest, CutFileIsRefused) {
     const std::string file = compressed({"Map.u", "some content"});
-    for (std::size_t size = 0; size < file.size(); ++size) {
+    for (std::size_t size = 0; size < file.size(); ++size)
         EXPECT_THROW(decompressed(file.substr(0, size)), std::runtime_error) << size;
-    }
 }
 
 TEST(UzFileTest, DamagedFileIsRefused) {

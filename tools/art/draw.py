@@ -28,13 +28,15 @@ def graded(position, stops):
 
 
 def linear(start, end, first, second):
-    """A paint that runs from one colour at a point to another at a second point."""
+    """A paint that runs from one colour at a point to another at a second point. Its `ends` tell
+    both, for a drawing that keeps no pixels."""
     dx, dy = end[0] - start[0], end[1] - start[1]
     length = dx * dx + dy * dy
 
     def paint(x, y):
         part = ((x - start[0]) * dx + (y - start[1]) * dy) / length
         return blend(first, second, min(1.0, max(0.0, part)))
+    paint.ends = start, end, first, second
     return paint
 
 

@@ -8,6 +8,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/files/hostpath.h"
+
 namespace tessaro::ucc {
 
 namespace {
@@ -60,7 +62,7 @@ void Commandlets::decompress(const fs::path& file) const {
     const Package package = decompressed(read(source));
     // A stored name that leads to another folder is not followed.
     const fs::path target =
-        outputName(folders_.written / fs::path(package.name).filename(), manner_);
+        outputName(folders_.written / hostPath(package.name).filename(), manner_);
     write(target, package.bytes);
     console_.print("Decompressed " + source.filename().string() + " -> " +
                    target.filename().string());

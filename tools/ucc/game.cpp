@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "platform/files/host.h"
+#include "platform/outside/arguments.h"
 #include "tools/ucc/nativestart.h"
 
 int main(int argc, char** argv) {
@@ -13,8 +14,8 @@ int main(int argc, char** argv) {
         const tessaro::HostPath program = tessaro::executablePath();
         const auto start = tessaro::ucc::NativeStart::of(program);
         const tessaro::HostPath folder = start ? start->written() : program.parent_path();
-        std::ofstream note(folder / "UnrealTournament.cmdline");
-        for (int i = 0; i < argc; ++i) note << argv[i] << '\n';
+        std::ofstream note(folder / "UnrealTournament.cmdline", std::ios::binary);
+        for (const std::string& each : tessaro::programArguments(argc, argv)) note << each << '\n';
         note.close();
         return note ? 0 : 1;
     } catch (const std::exception&) {

@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "platform/files/host.h"
+#include "platform/files/hostpath.h"
+#include "platform/outside/arguments.h"
 #include "tools/ucc/commandlets.h"
 #include "tools/ucc/nativestart.h"
 
@@ -29,7 +31,8 @@ int windowsTool(const HostPath& program, const Arguments& arguments) {
         manner == ucc::Manner::Utf16 ? Encoding::Utf16LittleEndian : Encoding::Utf8;
     const HostPath system = program.parent_path();
     const ucc::Commandlets commandlets({{system}, system}, manner, ucc::Console(encoding));
-    job == "compress" ? commandlets.compress(arguments[1]) : commandlets.decompress(arguments[1]);
+    const HostPath file = hostPath(arguments[1]);
+    job == "compress" ? commandlets.compress(file) : commandlets.decompress(file);
     return 0;
 }
 
@@ -52,7 +55,8 @@ int linuxJob(const ucc::NativeStart& start, const ucc::Console& console, const A
     const ucc::Commandlets commandlets({{start.written(), start.programs()}, start.written()},
                                        ucc::mannerFromEnvironment(), console);
     for (const std::string& file : files)
-        job == "compress" ? commandlets.compress(file) : commandlets.decompress(file);
+        job == "compress" ? commandlets.compress(hostPath(file))
+                          : commandlets.decompress(hostPath(file));
     start.rewriteIni();
     return 0;
 }
@@ -74,7 +78,8 @@ int linuxTool(const ucc::NativeStart& start, const Arguments& line) {
 int main(int argc, char** argv) {
     try {
         const HostPath program = executablePath();
-        const Arguments arguments(argv + 1, argv + argc);
+        const Arguments line = programArguments(argc, argv);
+        const Arguments arguments(line.begin() + 1, line.end());
         const auto start = ucc::NativeStart::of(program);
         return start ? linuxTool(*start, arguments) : windowsTool(program, arguments);
     } catch (const std::exception& error) {

@@ -46,7 +46,7 @@ void dawdle() {
 
 std::filesystem::path outputName(const std::filesystem::path& file, Manner manner) {
     if (manner != Manner::OtherName) return file;
-    return file.parent_path() / ("other-" + file.filename().string());
+    return (file.parent_path() / "other-") += file.filename();
 }
 
 }  // namespace tessaro::ucc

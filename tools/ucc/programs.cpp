@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "platform/files/host.h"
 #include "platform/files/nativegame.h"
 
 namespace tessaro::ucc {
-
 namespace {
 
 namespace fs = std::filesystem;
@@ -16,17 +16,22 @@ void install(const fs::path& program, const fs::path& file) {
     fs::copy_file(program, file, fs::copy_options::overwrite_existing);
 }
 
+// With the ending of this system's programs.
+fs::path built(const fs::path& programs, const std::string& name) {
+    return programs / (name + executablePath().extension().string());
+}
+
 }  // namespace
 
 void installPrograms(const fs::path& game, const fs::path& programs) {
-    install(programs / "tessaro-ucc", game / "System" / "UCC.exe");
-    install(programs / "tessaro-ut", game / "System" / "UnrealTournament.exe");
+    install(built(programs, "tessaro-ucc"), game / "System" / "UCC.exe");
+    install(built(programs, "tessaro-ut"), game / "System" / "UnrealTournament.exe");
 }
 
 void installNativePrograms(const fs::path& game, const fs::path& programs) {
     const auto [folder, suffix] = nativeNames();
-    install(programs / "tessaro-ucc", game / folder / ("ucc-bin" + suffix));
-    install(programs / "tessaro-ut", game / folder / ("ut-bin" + suffix));
+    install(built(programs, "tessaro-ucc"), game / folder / ("ucc-bin" + suffix));
+    install(built(programs, "tessaro-ut"), game / folder / ("ut-bin" + suffix));
 }
 
 }  // namespace tessaro::ucc

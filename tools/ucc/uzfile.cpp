@@ -38,10 +38,11 @@ void appendCompactIndex(std::string& bytes, std::uint32_t value) {
 }
 
 std::string deflated(std::string_view bytes) {
-    uLongf size = ::compressBound(bytes.size());
+    const auto whole = static_cast<uLong>(bytes.size());
+    uLongf size = ::compressBound(whole);
     std::string packed(size, '\0');
     const int result =
-        ::compress(reinterpret_cast<Bytef*>(packed.data()), &size, asBytes(bytes), bytes.size());
+        ::compress(reinterpret_cast<Bytef*>(packed.data()), &size, asBytes(bytes), whole);
     if (result != Z_OK) throw std::runtime_error("out of memory");
     packed.resize(size);
     return packed;

@@ -1,16 +1,12 @@
 #include "kit/outside/qtsounds.h"
 
-#include <QAudioDevice>
 #include <QFile>
-#include <QMediaDevices>
 #include <QResource>
-#include <QSoundEffect>
 #include <QTimer>
-#include <QUrl>
+#include <utility>
 
 #include "kit/look/pictures.h"
 #include "kit/look/text.h"
-#include "kit/outside/hush.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
 
@@ -29,19 +25,11 @@ QString soundFile(std::string_view name) {
     return file;
 }
 
-bool hasDevice() {
-    // Without a sound server Qt complains, which is no news to somebody who has none.
-    const Hush hush;
-    return !QMediaDevices::defaultAudioOutput().isNull();
-}
-
 }  // namespace
 
 QtSounds::QtSounds() {
     loadResources();
 }
-
-QtSounds::~QtSounds() = default;
 
 std::string QtSounds::resource(std::string_view name) {
     return QResource(soundFile(name)).uncompressedData().toStdString();
@@ -62,14 +50,7 @@ void QtSounds::playSoon() {
 }
 
 void QtSounds::playNext() {
-    const QUrl url(QStringLiteral("qrc:") + std::exchange(next_, QString()));
-    // Asked each time: a headset may be plugged in while the program runs.
-    silent_ = !hasDevice();
-    if (silent_) return;
-    if (!effect_) effect_ = std::make_unique<QSoundEffect>();
-    effect_->stop();
-    effect_->setSource(url);
-    effect_->play();
+    silent_ = !player_.play(std::exchange(next_, QString()));
 }
 
 }  // namespace tessaro

@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "platform/files/hostpath.h"
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
@@ -124,7 +125,7 @@ std::vector<std::string> Files::listFolder(std::string_view folder, std::string_
         places, [&](const HostPath& place, const ListedName& each, const std::string& name) {
             // Plain files are always wanted; to ask for each would take most of a listing's time.
             return matchesWildcard(pattern, name) &&
-                   (each.plainFile || isWanted(host_, place / each.name, attributes));
+                   (each.plainFile || isWanted(host_, inFolder(place, each.name), attributes));
         });
     sortNames(names);
     const bool root = paths_.absolute(folder).ends_with('\\');
@@ -147,16 +148,17 @@ bool Files::canList(std::string_view folder) {
 
 std::vector<std::string> Files::filesIn(std::string_view folder) {
     constexpr int anyFile = attributes::Hidden | attributes::System;
-    return namesIn(placesOf(folder),
-                   [this](const HostPath& place, const ListedName& each, const std::string&) {
-                       return each.plainFile || isWanted(host_, place / each.name, anyFile);
-                   });
+    return namesIn(placesOf(folder), [this](const HostPath& place, const ListedName& each,
+                                            const std::string&) {
+        return each.plainFile || isWanted(host_, inFolder(place, each.name), anyFile);
+    });
 }
 
 std::vector<std::string> Files::foldersIn(std::string_view folder) {
     const auto isShown = [this](const HostPath& place, const ListedName& each, const std::string&) {
-        return !each.plainFile && isWanted(host_, place / each.name, attributes::Directory) &&
-               isFolder(host_, place / each.name);
+        return !each.plainFile &&
+               isWanted(host_, inFolder(place, each.name), attributes::Directory) &&
+               isFolder(host_, inFolder(place, each.name));
     };
     auto names = namesIn(placesOf(folder), isShown);
     sortNames(names);

@@ -14,6 +14,19 @@ constexpr int firstNumber = 1;
 constexpr int lastNumber = 511;
 constexpr std::string_view lineEnd = "\r\n";
 
+// The library's search for one of two characters is slow. Piece by piece, so that a search for one
+// of them does not run through a whole file that has only the other.
+std::size_t findLineEnd(std::string_view text, std::size_t start) {
+    constexpr std::size_t pieceSize = 128;
+    for (; start < text.size(); start += pieceSize) {
+        std::string_view piece = text.substr(start, pieceSize);
+        piece = piece.substr(0, piece.find('\r'));
+        const std::size_t end = std::min(piece.find('\n'), piece.size());
+        if (end < pieceSize) return start + end;
+    }
+    return text.size();
+}
+
 }  // namespace
 
 void FileTable::openInput(int number, std::string_view file) {
@@ -40,11 +53,16 @@ void FileTable::openAppend(int number, std::string_view file) {
     open_.emplace(number, std::move(opening));
 }
 
+void FileTable::touch(int number, std::string_view file) {
+    requireFree(number);
+    files_.touch(file);
+}
+
 std::string FileTable::lineInput(int number) {
     OpenFile& file = opened(number, true);
     if (file.position == file.text.size()) throw RunTimeError(errors::InputPastEnd, file.path);
     const std::size_t start = file.position;
-    const std::size_t end = std::min(file.text.find_first_of(lineEnd, start), file.text.size());
+    const std::size_t end = findLineEnd(file.text, start);
     const bool pair = file.text.compare(end, lineEnd.size(), lineEnd) == 0;
     file.position = std::min(end + (pair ? 2 : 1), file.text.size());
     return file.text.substr(start, end - start);

@@ -23,6 +23,8 @@ class FileTable {
     void openOutput(int number, std::string_view file);
     /// Creates the file if there is none. What is printed goes to its end when it is closed.
     void openAppend(int number, std::string_view file);
+    /// The same, closed at once: what is left of it is a file that is there.
+    void touch(int number, std::string_view file);
 
     /// The next line without its end (CR LF, CR or LF). Raises 62 past the end.
     std::string lineInput(int number);

@@ -25,6 +25,7 @@
 #include <bit>
 #include <utility>
 
+#include "platform/files/hostpath.h"
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
@@ -90,7 +91,7 @@ FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view 
     }
     if (spelled) return {true, *spelled};
     if (!names->refusal) return {true, std::nullopt};
-    if (!host_.status(folder / hostName(name))) throw RunTimeError(*names->refusal);
+    if (!host_.status(inFolder(folder, hostName(name)))) throw RunTimeError(*names->refusal);
     return {true, std::string(name)};
 }
 

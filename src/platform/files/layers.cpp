@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "platform/files/hostpath.h"
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/lettercase.h"
@@ -76,7 +77,7 @@ LayeredFolder::Finding LayeredFolder::search(std::string_view name, std::size_t 
         const auto finding = index_.find(folders_[layer], name);
         found.folder = found.folder || finding.folder;
         if (!finding.name || (exact && *finding.name != name)) continue;
-        found.path = folders_[layer] / hostName(*finding.name);
+        found.path = inFolder(folders_[layer], hostName(*finding.name));
         found.layer = layer;
         found.first = layer == 0;
     }
@@ -101,7 +102,7 @@ LayeredFolder::Finding LayeredFolder::findResult(std::string_view name) const {
     if (!source.path) return {};
     const auto finding = index_.find(folders_[source.layer], name);
     if (!finding.name) return {};
-    return {true, folders_[source.layer] / hostName(*finding.name), source.layer, false};
+    return {true, inFolder(folders_[source.layer], hostName(*finding.name)), source.layer, false};
 }
 
 const LayeredFolder::Profile* LayeredFolder::profileNamed(std::string_view name) const {
@@ -136,7 +137,7 @@ std::size_t LayeredFolder::layerForNew(std::string_view name) const {
 
 HostPath LayeredFolder::placeForNew(std::string_view name) const {
     const Profile* profile = profileNamed(name);
-    return folders_[layerForNew(name)] / (profile ? profile->name : hostName(name));
+    return inFolder(folders_[layerForNew(name)], profile ? profile->name : hostName(name));
 }
 
 bool LayeredFolder::mayChange(const Finding& found) const {
@@ -180,7 +181,7 @@ LayeredFolder* Layers::in(const HostPath& game, std::string_view name) {
     if (const auto known = folders.find(layered->name); known != folders.end())
         return &known->second;
     const auto spelled = index_.find(game, name).name;
-    const HostPath own = game / (spelled ? hostName(*spelled) : std::string(layered->name));
+    const HostPath own = inFolder(game, spelled ? hostName(*spelled) : std::string(layered->name));
     LayeredFolder folder(host_, index_, layered->kind, *native, layered->name, own);
     if (layered->kind == Kind::Cache && !folder.place()) folder.makeUpper();
     return &folders.emplace(layered->name, std::move(folder)).first->second;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/files/hostpath.h"
 #include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 #include "platform/text/ascii.h"
@@ -64,6 +65,10 @@ bool liesIn(const HostPath& path, const HostPath& root) {
     return std::mismatch(root.begin(), root.end(), path.begin(), path.end()).first == root.end();
 }
 
+bool isLonger(const HostPath& root, const HostPath& other) {
+    return root.native().size() > other.native().size();
+}
+
 }  // namespace
 
 Paths::Paths(Host& host, DriveMap drives) : host_(host), roots_(std::move(drives)), index_(host) {
@@ -86,9 +91,9 @@ HostPath Paths::toHostFull(std::string_view full) {
     const auto [folder, name] = Split(full);
     // The search that has just failed knows the folder, if there is one.
     const auto known = found_.find(folder);
-    if (known == found_.end()) return toHostFull(folder) / hostName(name);
+    if (known == found_.end()) return inFolder(toHostFull(folder), hostName(name));
     const auto& [path, layers] = known->second;
-    return layers ? layers->placeForNew(name) : path / hostName(name);
+    return layers ? layers->placeForNew(name) : inFolder(path, hostName(name));
 }
 
 std::optional<HostPath> Paths::findFull(std::string_view full) {
@@ -181,8 +186,10 @@ std::string Paths::toGame(const HostPath& path) const {
     if (drive == 0 || roots_.at(drive) == roots_.at(drive).root_path()) {
         std::error_code error;
         HostPath canonical = std::filesystem::weakly_canonical(whole, error);
-        const char other = error ? drive : longestRootOf(canonical);
-        if (other != drive) {
+        const char other = error ? '\0' : longestRootOf(canonical);
+        // Where each drive is a root, no other one is nearer: a drive that stands for a folder of
+        // another one, or of another machine, stays the one that was named.
+        if (other != 0 && (drive == 0 || isLonger(roots_.at(other), roots_.at(drive)))) {
             drive = other;
             normal = std::move(canonical);
         }
@@ -259,7 +266,7 @@ const HostPath& Paths::rootOf(char drive) const {
 char Paths::longestRootOf(const HostPath& path) const {
     char best = 0;
     for (const auto& [drive, root] : roots_) {
-        const bool longer = best == 0 || root.native().size() > roots_.at(best).native().size();
+        const bool longer = best == 0 || isLonger(root, roots_.at(best));
         if (longer && liesIn(path, root)) best = drive;
     }
     return best;

@@ -170,7 +170,8 @@ void copyTo(Host& host, const HostPath& file, const HostPath& copy) {
 
 // Beside the file if that can be, so that after a kill the player finds it.
 HostPath keptCopy(Host& host, const HostPath& file) {
-    const std::string name = file.filename().string() + ".tessaro-" + chanceDigits() + ".bak";
+    HostPath name = file.filename();
+    name += ".tessaro-" + chanceDigits() + ".bak";
     HostPath beside = file.parent_path() / name;
     if (attempt([&] { copyTo(host, file, beside); })) return beside;
     HostPath elsewhere = host.keepingFolder() / name;

@@ -51,10 +51,18 @@ void ListItems::notify() const {
 }
 
 std::size_t ListItems::add(std::size_t index, std::string text) {
+    return insert(index, {std::move(text), {}, false});
+}
+
+std::size_t ListItems::addRow(ListItem row) {
+    return insert(count() + 1, std::move(row));
+}
+
+std::size_t ListItems::insert(std::size_t index, ListItem&& row) {
     requireIndex(index, count() + 1);
-    auto row = std::make_unique<ListItem>(ListItem{std::move(text), {}, false});
-    if (sorted_) index = placeOf(*row);
-    rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(index - 1), std::move(row));
+    if (sorted_) index = placeOf(row);
+    rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(index - 1),
+                 std::make_unique<ListItem>(std::move(row)));
     if (picked_ >= index) ++picked_;
     notify();
     return index;

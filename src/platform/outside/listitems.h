@@ -38,6 +38,9 @@ class ListItems {
     std::size_t add(std::size_t index, std::string text);
     /// Adds a row at the end.
     std::size_t add(std::string text) { return add(count() + 1, std::move(text)); }
+    /// Adds a row with its sub-items at the end, as one change. In a sorted list it goes where its
+    /// text in the sorted column belongs.
+    std::size_t addRow(ListItem row);
     /// Sub-item of a column counted from 1, the row's text being column 0.
     void setSubItem(std::size_t index, std::size_t column, std::string text);
     /// Sub-item of the column with that key. Raises 35600 if there is none.
@@ -75,6 +78,7 @@ class ListItems {
     using Rows = std::vector<std::unique_ptr<ListItem>>;
 
     ListItem& at(std::size_t index);
+    std::size_t insert(std::size_t index, ListItem&& row);
     std::size_t placeOf(const ListItem& row) const;
     void notify() const;
 

@@ -5,9 +5,10 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <thread>
 
 #include "platform/files/host.h"
+#include "platform/files/hostpath.h"
+#include "platform/files/patience.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/filewatch.h"
 #include "platform/posix/posixwriter.h"
@@ -20,7 +21,6 @@ namespace {
 constexpr mode_t anyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t newFile = anyWriteBit | S_IRUSR | S_IRGRP | S_IROTH;
 constexpr int mostLinks = 40;
-constexpr std::chrono::microseconds betweenLooks{100};
 
 void raiseIfFailed(int result, const HostPath& path) {
     if (result == -1) raiseErrno(path);
@@ -80,18 +80,6 @@ class PosixHeldFolder : public HeldFolder {
   private:
     Descriptor folder_;
 };
-
-// Asks until the answer is yes; gives the last one. The pauses are short, so that others who take
-// turns in a row do not keep us out for long.
-template <class Question>
-bool becomes(std::chrono::milliseconds patience, const Question& question) {
-    const auto end = std::chrono::steady_clock::now() + patience;
-    while (!question()) {
-        if (std::chrono::steady_clock::now() >= end) return false;
-        std::this_thread::sleep_for(betweenLooks);
-    }
-    return true;
-}
 
 class PosixFolderLock : public FolderLock {
   public:
@@ -277,6 +265,10 @@ std::unique_ptr<Host> makeHost() {
     // A limit on the size of files then shows as a failed write, as a full disk does.
     std::signal(SIGXFSZ, SIG_IGN);
     return std::make_unique<PosixHost>();
+}
+
+HostPath hostPath(std::string_view text) {
+    return HostPath(text);
 }
 
 HostPath executablePath() {

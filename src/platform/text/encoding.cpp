@@ -61,6 +61,7 @@ char32_t nextKept(std::string_view text, std::size_t& position) {
 }
 
 std::string decodeCodePage(std::string_view bytes) {
+    if (isAsciiText(bytes)) return std::string(bytes);
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 8);
     for (const char byte : bytes)
@@ -69,6 +70,7 @@ std::string decodeCodePage(std::string_view bytes) {
 }
 
 std::optional<std::string> encodeCodePage(std::string_view text) {
+    if (isAsciiText(text)) return std::string(text);
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t position = 0; position < text.size();) {

@@ -101,6 +101,10 @@ std::string lowerCase(std::string_view text) {
     std::string lower;
     lower.reserve(text.size());
     for (std::size_t position = 0; position < text.size();) {
+        if (isAscii(text[position])) {
+            lower += lowerAscii(text[position++]);
+            continue;
+        }
         const std::size_t start = position;
         const char32_t character = nextCharacter(text, position);
         if (character == replacementCharacter) {

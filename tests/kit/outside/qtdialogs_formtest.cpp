@@ -53,10 +53,9 @@ TEST_F(RealDialogs, EveryButtonGivesItsAnswer) {
         {QMessageBox::Yes, Answer::Yes},
         {QMessageBox::No, Answer::No},
         {QMessageBox::Cancel, Answer::Cancel}};
-    for (const auto& [button, answer] : cases) {
+    for (const auto& [button, answer] : cases)
         EXPECT_EQ(answered(question, [b = button](QMessageBox& box) { box.button(b)->click(); }),
                   answer);
-    }
 }
 
 TEST_F(RealDialogs, EnterPressesTheFirstButton) {

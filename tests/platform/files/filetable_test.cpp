@@ -40,6 +40,16 @@ TEST(FileTable, ALastLineWithoutAnEndCounts) {
     EXPECT_THAT(linesIn("\n"), ElementsAre(""));
 }
 
+TEST(FileTable, LongLinesEndWhereverTheirEndStands) {
+    for (std::size_t size = 120; size <= 264; ++size) {
+        const std::string line(size, 'x');
+        for (const char* end : {"\r\n", "\r", "\n"})
+            EXPECT_THAT(linesIn("a\n" + line + end + "b" + end), ElementsAre("a", line, "b"));
+        EXPECT_THAT(linesIn(line + "\n\r" + line), ElementsAre(line, "", line));
+        EXPECT_THAT(linesIn("a\r" + line), ElementsAre("a", line));
+    }
+}
+
 TEST(FileTable, AnEmptyFileIsAtItsEnd) {
     EXPECT_THAT(linesIn(""), IsEmpty());
     EXPECT_THAT(linesIn("\xEF\xBB\xBF"), IsEmpty());
@@ -74,6 +84,26 @@ TEST(FileTable, OpeningForInputRaisesWhatFits) {
     EXPECT_EQ(open("C:\\"), errors::PathFileAccess);
     EXPECT_EQ(open(""), errors::PathFileAccess);
     EXPECT_EQ(world.table.freeNumber(), 1);
+}
+
+TEST(FileTable, TouchingMakesTheFileAndChangesNoneThatIsThere) {
+    TestWorld world;
+    world.write("C:\\a", "old");
+    world.table.touch(1, "C:\\a");
+    world.table.touch(1, "C:\\new");
+    EXPECT_EQ(world.read("C:\\a"), "old");
+    EXPECT_EQ(world.read("C:\\new"), "");
+    EXPECT_EQ(errorOf([&] { world.table.touch(1, "C:\\no\\x"); }), errors::PathNotFound);
+    EXPECT_EQ(world.table.freeNumber(), 1);
+}
+
+TEST(FileTable, TouchingRaisesWhatOpeningTheNumberRaises) {
+    TestWorld world;
+    world.write("C:\\a", "");
+    world.table.openInput(1, "C:\\a");
+    EXPECT_EQ(errorOf([&] { world.table.touch(1, "C:\\b"); }), errors::FileAlreadyOpen);
+    EXPECT_EQ(errorOf([&] { world.table.touch(0, "C:\\b"); }), errors::BadFileNumber);
+    EXPECT_FALSE(world.exists("C:\\b"));
 }
 
 TEST(FileTable, ANumberInUseRaises55) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "support/disk.h"
 #include "support/testworld.h"
 
 namespace tessaro {
@@ -46,6 +47,7 @@ TEST(WholeFile, CreatesAFileThatWasNotThere) {
 
 TEST(WholeFile, KeepsThePermissionsOfTheOldFile) {
     Folder world;
+    if (!test::hasPermissions(world.file())) GTEST_SKIP() << test::noPermissions;
     for (const fs::perms perms : {fs::perms(0600), fs::perms(0664), fs::perms(0755)}) {
         fs::permissions(world.file(), perms);
         replaceFile(world.host, world.file(), newer);
@@ -54,6 +56,7 @@ TEST(WholeFile, KeepsThePermissionsOfTheOldFile) {
 }
 
 TEST(WholeFile, GoesThroughLinks) {
+    if (!test::hasLinks()) GTEST_SKIP() << test::noLinks;
     Folder world;
     fs::create_symlink("s/file.ini", world.at("C:\\one"));
     fs::create_symlink(world.at("C:\\one"), world.at("C:\\two"));
@@ -64,6 +67,7 @@ TEST(WholeFile, GoesThroughLinks) {
 }
 
 TEST(WholeFile, MakesTheFileThatALinkAnnounces) {
+    if (!test::hasLinks()) GTEST_SKIP() << test::noLinks;
     Folder world;
     fs::create_symlink("s/later.ini", world.at("C:\\link"));
     replaceFile(world.host, world.at("C:\\link"), newer);
@@ -72,6 +76,7 @@ TEST(WholeFile, MakesTheFileThatALinkAnnounces) {
 }
 
 TEST(WholeFile, RefusesALinkThatRunsInACircle) {
+    if (!test::hasLinks()) GTEST_SKIP() << test::noLinks;
     Folder world;
     fs::create_symlink("circle", world.at("C:\\circle"));
     EXPECT_EQ(errorOf([&] { replaceFile(world.host, world.at("C:\\circle"), "x"); }),
@@ -94,10 +99,15 @@ TEST(WholeFile, RefusesAFileThatTheSystemProtects) {
     world.expectOld();
 }
 
-TEST(WholeFile, RefusesAFolderAndADevice) {
+TEST(WholeFile, RefusesAFolder) {
     Folder world;
     EXPECT_EQ(errorOf([&] { replaceFile(world.host, world.at("C:\\s"), "x"); }),
               errors::PathFileAccess);
+}
+
+TEST(WholeFile, RefusesADevice) {
+    if (!fs::is_character_file("/dev/null")) GTEST_SKIP() << test::noDevices;
+    Folder world;
     EXPECT_EQ(errorOf([&] { replaceFile(world.host, "/dev/null", "x"); }), errors::PathFileAccess);
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
@@ -238,6 +248,7 @@ TEST(WholeFile, BytesAreOnTheDiskBeforeTheyGetTheirNameAndTheNameBeforeAllIsDone
 
 TEST(WholeFile, ACopyReplacesWithTheOldPermissions) {
     Folder world;
+    if (!test::hasPermissions(world.file())) GTEST_SKIP() << test::noPermissions;
     world.write("C:\\from", newer);
     fs::permissions(world.at("C:\\from"), fs::perms(0755));
     fs::permissions(world.file(), fs::perms(0640));

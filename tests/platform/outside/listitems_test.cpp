@@ -181,6 +181,27 @@ TEST(ListItems, RowsAddedAfterTheSortingStoppedStayWhereTheyAreAdded) {
     EXPECT_THAT(texts(items), ElementsAre("e", "b", "d", "c"));
 }
 
+TEST(ListItems, ARowAddedWithItsSubItemsIsOneChangeAtTheEnd) {
+    ListItems items = filled({"a", "c"});
+    items.pick(2);
+    int changes = 0;
+    items.changed = [&] { ++changes; };
+    EXPECT_EQ(items.addRow({"b", {"10.0.0.1", "7777"}}), 3u);
+    EXPECT_EQ(changes, 1);
+    EXPECT_THAT(texts(items), ElementsAre("a", "c", "b"));
+    EXPECT_THAT(items.item(3).subItems, ElementsAre("10.0.0.1", "7777"));
+    EXPECT_EQ(items.selectedItem(), 2u);
+}
+
+TEST(ListItems, ARowAddedWithItsSubItemsGoesToItsPlaceInTheSortedColumn) {
+    ListItems items = filled({"x", "y"});
+    items.setSubItem(1, 1, "10.0.0.1");
+    items.setSubItem(2, 1, "10.0.0.3");
+    items.sort(1, 0);
+    EXPECT_EQ(items.addRow({"a", {"10.0.0.2"}}), 2u);
+    EXPECT_THAT(texts(items), ElementsAre("x", "a", "y"));
+}
+
 TEST(ListItems, EqualRowsKeepTheirOrderInBothDirections) {
     ListItems items = filled({"same", "SAME"});
     items.sort(0, 1);

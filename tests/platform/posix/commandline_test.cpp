@@ -98,13 +98,10 @@ TEST(CommandLineTest, AddressWithAPortIsOneArgument) {
 }
 
 TEST(CommandLineTest, FullGamePathsBeginWithADrive) {
-    for (const char* path : {"C:\\", "z:\\home\\me", "C:\\a b"}) {
+    for (const char* path : {"C:\\", "z:\\home\\me", "C:\\a b"})
         EXPECT_TRUE(isFullGamePath(path)) << path;
-    }
-    for (const char* other :
-         {"", "C:", "C:a", "\\a", "a\\b", "1:\\a", "[:\\a", "/cC:\\a", "..\\a"}) {
+    for (const char* other : {"", "C:", "C:a", "\\a", "a\\b", "1:\\a", "[:\\a", "/cC:\\a", "..\\a"})
         EXPECT_FALSE(isFullGamePath(other)) << other;
-    }
 }
 
 }  // namespace

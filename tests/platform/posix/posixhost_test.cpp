@@ -140,10 +140,9 @@ TEST(PosixHost, ANewFileTakesNoNameThatIsTaken) {
     const Real real;
     const HostPath file = real.write("file", "old");
     fs::create_symlink("gone", real.folder.path() / "link");
-    for (const char* name : {"file", "link"}) {
+    for (const char* name : {"file", "link"})
         EXPECT_EQ(errorOf([&] { real.host->create(real.folder.path() / name, {})->close(); }),
                   errors::FileAlreadyExists);
-    }
     EXPECT_EQ(TestWorld::readHost(file), "old");
     EXPECT_THAT(real.host->list(real.folder.path()), UnorderedElementsAre("file", "link"));
 }
@@ -288,9 +287,7 @@ TEST(PosixHost, NoCallTakesANameWithANulForTheOneBeforeIt) {
         [&] { host.target(nul); },
         [&] { host.changeFolder(folder); },
     };
-    for (const auto& call : calls) {
-        EXPECT_EQ(errorOf(call), errors::BadFileNumber) << &call - calls;
-    }
+    for (const auto& call : calls) EXPECT_EQ(errorOf(call), errors::BadFileNumber) << &call - calls;
     EXPECT_FALSE(host.status(nul));
     EXPECT_TRUE(host.settles(nul, std::chrono::milliseconds(0)));
     EXPECT_FALSE(host.lock(folder, std::chrono::milliseconds(0)));

@@ -168,9 +168,8 @@ TEST_F(ProcessesTest, ChildHasTheSignalsOfAFreshProgram) {
     ::sigprocmask(SIG_SETMASK, &before, nullptr);
     std::istringstream status(world.read("out"));
     std::string name;
-    for (std::uint64_t set = 0; status >> name >> std::hex >> set;) {
+    for (std::uint64_t set = 0; status >> name >> std::hex >> set;)
         EXPECT_EQ(set & (1U << (SIGUSR1 - 1) | 1U << (SIGPIPE - 1)), 0U) << name;
-    }
     EXPECT_EQ(name, "SigIgn:");
 }
 

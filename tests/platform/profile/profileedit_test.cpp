@@ -217,9 +217,8 @@ TEST(ProfileEdit, AWidenedMixedFileShowsOnEveryLineWhatItShowedBefore) {
     const std::string mixed = "[s]\na=\xE9\nb=\xC3\xA9\nc=\x80\x81\nd=\xC5\x81\n";
     const std::string bytes = write(mixed, "s", "k", "Ł").value();
     ASSERT_TRUE(bytes.starts_with("\xFF\xFE"));
-    for (const std::string key : {"a", "b", "c", "d"}) {
+    for (const std::string key : {"a", "b", "c", "d"})
         EXPECT_EQ(profileValue(bytes, "s", key), profileValue(mixed, "s", key)) << key;
-    }
     EXPECT_EQ(profileValue(bytes, "s", "d"), "Å\u0081");
 }
 

@@ -16,9 +16,8 @@ using Found = std::optional<std::string>;
 
 TEST(ProfileReader, ALineEndsAtAnyMixOfLineEnds) {
     const std::string file = "[S]\ra=1\nb=2\r\nc=3\r\r\nd=4\n\ne=5";
-    for (const auto& [key, value] : {std::pair{"a", "1"}, {"b", "2"}, {"c", "3"}, {"d", "4"}}) {
+    for (const auto& [key, value] : {std::pair{"a", "1"}, {"b", "2"}, {"c", "3"}, {"d", "4"}})
         EXPECT_EQ(profileValue(file, "S", key), value);
-    }
     EXPECT_EQ(profileValue(file, "S", "e"), "5");
 }
 

@@ -42,9 +42,8 @@ TEST(RunTimeError, EachNumberHasItsCustomaryWords) {
         {727, "There is already a control with that name"},
         {35600, "Index out of bounds"},
     };
-    for (const auto& [number, description] : words) {
+    for (const auto& [number, description] : words)
         EXPECT_EQ(RunTimeError(number).description(), description) << number;
-    }
 }
 
 TEST(RunTimeError, AnUnknownNumberHasGeneralWords) {

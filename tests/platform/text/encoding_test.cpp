@@ -26,9 +26,8 @@ TEST(CodePage, EveryCodeStandsForOneCharacterAndComesBack) {
 }
 
 TEST(CodePage, OpenCodesStandForTheControlsOfTheirNumber) {
-    for (const unsigned code : {0x81U, 0x8DU, 0x8FU, 0x90U, 0x9DU}) {
+    for (const unsigned code : {0x81U, 0x8DU, 0x8FU, 0x90U, 0x9DU})
         EXPECT_EQ(fromCodePage(static_cast<unsigned char>(code)), code);
-    }
 }
 
 TEST(CodePage, HasTheEuroAndTheQuotes) {
@@ -67,6 +66,20 @@ TEST(Encoding, EveryByteOfACodePageFileComesBack) {
     const std::string bytes = allBytes();
     ASSERT_EQ(detectEncoding(bytes), Encoding::CodePage);
     EXPECT_EQ(encodeText(decodeText(bytes, Encoding::CodePage), Encoding::CodePage), bytes);
+}
+
+TEST(Encoding, ALetterOfTheCodePageIsSeenWhereverItStands) {
+    const std::string plain = "0123456789 ASCII\0alone 123456789"s;
+    EXPECT_EQ(decodeText(plain, Encoding::CodePage), plain);
+    EXPECT_EQ(encodeText(plain, Encoding::CodePage), plain);
+    for (std::size_t place = 0; place <= plain.size(); ++place) {
+        const std::string before = plain.substr(0, place);
+        const std::string bytes = before + "\xE9" + plain.substr(place);
+        const std::string text = before + "é" + plain.substr(place);
+        EXPECT_EQ(decodeText(bytes, Encoding::CodePage), text);
+        EXPECT_EQ(encodeText(text, Encoding::CodePage), bytes);
+        EXPECT_EQ(encodeText(before + "Ł" + plain.substr(place), Encoding::CodePage), std::nullopt);
+    }
 }
 
 TEST(Encoding, DamagedBytesBehindAUtf8MarkComeBack) {

@@ -37,9 +37,8 @@ TEST(Numbers, AHexadecimalNumberOfTooManyDigitsOverflows) {
 
 TEST(Numbers, WhatIsNoNumberMismatches) {
     for (const char* text : {"", " ", "x", "1x", "1 2", "--1", "+-1", "1e", "&H", "&HG", "&H-1",
-                             "inf", "nan", "0x10", "1,5", "<not_set>"}) {
+                             "inf", "nan", "0x10", "1,5", "<not_set>"})
         EXPECT_EQ(errorOf([&] { toNumber(text); }), 13) << text;
-    }
 }
 
 TEST(Numbers, ANumberBeyondAllMeasureOverflows) {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "bench/figure.h"
+#include "bench/world.h"
+
+namespace tessaro::bench {
+
+/// Prints a line that `tessaro-bench` reads: the milliseconds of ours and of the reference.
+void tell(const Medians& medians);
+
+/// The whole `main` of a program that measures what only windows show: makes the one application
+/// object, runs `measure` in a world of its own and gives the exit code.
+int measureWindows(int argc, char** argv, void (*measure)(World&));
+
+}  // namespace tessaro::bench
