@@ -87,7 +87,10 @@ std::vector<std::string> Files::list(std::string_view pattern, int attributes) {
     // A root has no name of its own to list.
     if (paths_.absolute(pattern).ends_with('\\'))
         return listFolder(pattern, everything, attributes);
-    return {gameName(path->filename().string())};
+    // Some names stand for a file of another one.
+    std::string found = gameName(path->filename().string());
+    const std::string_view asked = pattern.substr(name);
+    return {sameName(found, asked) ? std::move(found) : std::string(asked)};
 }
 
 // The host folders behind a folder that are there.

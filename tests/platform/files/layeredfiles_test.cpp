@@ -70,7 +70,7 @@ TEST_F(LayeredFilesTest, AFolderThatCannotBeListedIsNoneThatCan) {
 }
 
 TEST_F(LayeredFilesTest, AProgramIsAFileThatIsThere) {
-    EXPECT_EQ(list("System\\ucc.exe").size(), 1U);
+    EXPECT_THAT(list("System\\ucc.exe"), ElementsAre("ucc.exe"));
     EXPECT_EQ(files().read(game.path("System\\unrealtournament.exe")), "ut-bin");
     fs::remove(game.programs() / ("ucc-bin" + game.suffix()));
     EXPECT_EQ(list("System\\ucc.exe").size(), 0U);
