@@ -64,7 +64,8 @@ LayeredFolder::LayeredFolder(Host& host, FolderIndex& index, Kind kind, const Na
       folders_(foldersOf(kind, game, name, own_)) {}
 
 LayeredFolder::Finding LayeredFolder::find(std::string_view name) const {
-    if (const HostPath* program = programNamed(name)) return {true, *program};
+    if (const HostPath* program = programNamed(name))
+        return {.folder = true, .path = *program, .kept = true};
     if (const Profile* profile = profileNamed(name)) return findProfile(*profile);
     if (Finding result = findResult(name); result.path) return result;
     return search(name, folders_.size());
@@ -80,6 +81,7 @@ LayeredFolder::Finding LayeredFolder::search(std::string_view name, std::size_t 
         found.path = inFolder(folders_[layer], hostName(*finding.name));
         found.layer = layer;
         found.first = layer == 0;
+        found.kept = kind_ == Kind::Cache && layer > 0;
     }
     return found;
 }
@@ -102,7 +104,9 @@ LayeredFolder::Finding LayeredFolder::findResult(std::string_view name) const {
     if (!source.path) return {};
     const auto finding = index_.find(folders_[source.layer], name);
     if (!finding.name) return {};
-    return {true, inFolder(folders_[source.layer], hostName(*finding.name)), source.layer, false};
+    Finding result = source;
+    result.path = inFolder(folders_[source.layer], hostName(*finding.name));
+    return result;
 }
 
 const LayeredFolder::Profile* LayeredFolder::profileNamed(std::string_view name) const {
@@ -140,12 +144,8 @@ HostPath LayeredFolder::placeForNew(std::string_view name) const {
     return inFolder(folders_[layerForNew(name)], profile ? profile->name : hostName(name));
 }
 
-bool LayeredFolder::mayChange(const Finding& found) const {
-    return found.path && (kind_ != Kind::Cache || found.layer == 0);
-}
-
 HostPath LayeredFolder::toWrite(std::string_view name) const {
-    if (Finding found = find(name); mayChange(found)) return *std::move(found.path);
+    if (Finding found = find(name); found.path && !found.kept) return *std::move(found.path);
     HostPath place = placeForNew(name);
     if (place.parent_path() == folders_.front()) makeUpper();
     return place;
@@ -153,7 +153,7 @@ HostPath LayeredFolder::toWrite(std::string_view name) const {
 
 std::optional<HostPath> LayeredFolder::toDelete(std::string_view name) {
     Finding found = find(name);
-    if (!mayChange(found)) return std::nullopt;
+    if (!found.path || found.kept) return std::nullopt;
     if (const Profile* profile = profileNamed(name)) deleted_[profile->name] = found.layer;
     return std::move(found.path);
 }
@@ -165,9 +165,8 @@ std::optional<HostPath> LayeredFolder::templateOf(std::string_view name) const {
 
 void LayeredFolder::makeUpper() const {
     if (game_.home.empty()) return;
-    for (const HostPath& folder : {game_.home, folders_.front()}) {
+    for (const HostPath& folder : {game_.home, folders_.front()})
         if (!isFolder(host_, folder)) attempt([&] { host_.makePrivateFolder(folder); });
-    }
 }
 
 LayeredFolder* Layers::in(const HostPath& game, std::string_view name) {

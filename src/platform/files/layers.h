@@ -62,6 +62,7 @@ class LayeredFolder {
         std::optional<HostPath> path;  ///< nothing if none of them has the name
         std::size_t layer = 0;         ///< which of them has it
         bool first = false;            ///< no other file could come to be found before it
+        bool kept = false;             ///< the file is not to be changed
     };
 
     /// `own` is the game's folder, there or not; `name` as the game spells it.
@@ -95,7 +96,6 @@ class LayeredFolder {
     Finding search(std::string_view name, std::size_t depth, bool exact = false) const;
     Finding findProfile(const Profile& profile) const;
     Finding findResult(std::string_view name) const;
-    bool mayChange(const Finding& found) const;
     std::size_t layerForNew(std::string_view name) const;
 
     Host& host_;

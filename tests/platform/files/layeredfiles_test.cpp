@@ -139,6 +139,12 @@ TEST_F(LayeredFilesTest, AnIniThatIsNotThereIsMadeOfTheGamesTemplate) {
     EXPECT_EQ(NativeGameFolder::read(game.programs() / "Default.ini"), "[URL]\nPort=7777\n");
 }
 
+TEST_F(LayeredFilesTest, AProgramCannotBeDeletedByTheNameOfTheOneForWindows) {
+    EXPECT_EQ(errorOf([&] { files().deleteFiles(game.path("System\\ucc.exe")); }),
+              errors::PathFileAccess);
+    EXPECT_TRUE(fs::exists(game.programs() / ("ucc-bin" + game.suffix())));
+}
+
 TEST_F(LayeredFilesTest, ATemplateThatNobodyMayWriteStillMakesAFileThatOneMay) {
     put(game.programs() / "DefUser.ini", "[DefaultPlayer]\n");
     fs::permissions(game.programs() / "DefUser.ini", fs::perms::owner_read);
