@@ -12,6 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 using NativeStartUp = NativeSampleTest;
@@ -69,6 +70,20 @@ TEST_F(NativePreferences, AChosenFolderShowsAndChangesTheFilesThatTheGameReads) 
     EXPECT_THAT(read(programs() / "User.ini"), HasSubstr("[Botpack.Ladder]\nHasBeatenGame=True\n"));
     EXPECT_TRUE(read(programs() / "UnrealTournament.ini.tmp") == before);
     EXPECT_FALSE(fs::exists(written() / "System" / "User.ini"));
+}
+
+TEST_F(NativePreferences, OfAGameThatWasNeverStartedShowWhatItWillStartWithAndMakeThat) {
+    fs::remove_all(written());
+    for (const char* name : {"UnrealTournament.ini", "User.ini"}) fs::remove(programs() / name);
+    prefs.open();
+    EXPECT_THAT(world.dialogs.pickers, IsEmpty());
+    EXPECT_EQ(view.gameTweaks.purgeDays, "30");
+    view.gameTweaks.purgeDays = "7";
+    prefs.ok();
+    const std::string made = read(written() / "System" / "UnrealTournament.ini");
+    EXPECT_THAT(made, HasSubstr("PurgeCacheDays=7\r\n"));
+    EXPECT_THAT(made, HasSubstr("[Engine.GameInfo]"));
+    EXPECT_THAT(read(programs() / "Default.ini"), HasSubstr("PurgeCacheDays=30"));
 }
 
 TEST_F(NativePreferences, TheWipeEmptiesTheCacheThatTheGameWrites) {

@@ -89,10 +89,19 @@ LayeredFolder::Finding LayeredFolder::search(std::string_view name, std::size_t 
 LayeredFolder::Finding LayeredFolder::findProfile(const Profile& profile) const {
     const auto deleted = deleted_.find(profile.name);
     const std::size_t depth = deleted == deleted_.end() ? folders_.size() : deleted->second + 1;
-    if (Finding found = search(profile.name, depth, true); found.path) return found;
-    Finding other = search(profile.name, depth);
-    other.first = false;
-    return other;
+    Finding found = search(profile.name, depth, true);
+    if (!found.path) {
+        found = search(profile.name, depth);
+        found.first = false;
+    }
+    if (found.path) {
+        found.kept = folders_[found.layer] == own_ && own_ != game_.programs;
+    } else if (deleted == deleted_.end()) {
+        found = search(profile.madeOf, folders_.size());
+        found.first = false;
+        found.kept = true;
+    }
+    return found;
 }
 
 // What ucc may have made of a file, beside it.
@@ -160,7 +169,9 @@ std::optional<HostPath> LayeredFolder::toDelete(std::string_view name) {
 
 std::optional<HostPath> LayeredFolder::templateOf(std::string_view name) const {
     const Profile* profile = profileNamed(name);
-    return profile && !find(name).path ? find(profile->madeOf).path : std::nullopt;
+    if (!profile) return std::nullopt;
+    const Finding found = findProfile(*profile);
+    return found.path && !found.kept ? std::nullopt : search(profile->madeOf, folders_.size()).path;
 }
 
 void LayeredFolder::makeUpper() const {

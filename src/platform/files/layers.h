@@ -29,24 +29,28 @@ namespace tessaro {
 //
 // A name is looked for from the top down, in each folder without regard to case. A listing is the
 // union of all, of names that differ in case only the upper one. A file is written where it was
-// found, but in Cache: the game never changes what lies below there, and neither do we. HOME is
-// made when something is written to it, for its owner only, as the game makes it; and so is its
-// Cache, once the folder is asked for and neither is there, as in a game that has not downloaded
+// found, but in Cache: the game never changes what lies below there, and neither do we; a write
+// makes a file above it.
+//
+// HOME is made when something is written to it, for its owner only, as the game makes it; and so is
+// its Cache, once the folder is asked for and neither is there, as in a game that has not downloaded
 // anything yet. Where the game cannot use HOME (a file has its name), the folders below are all
 // there is, and a new file goes to the uppermost of them.
 //
 // Some names of System stand for something else, or are special to the game:
 //
-//     ucc.exe, unrealtournament.exe     the programs in PROGRAMS
-//     unrealtournament.ini, user.ini    each by itself. The game knows only `UnrealTournament.ini`
-//                                       and `User.ini`, so a file of that spelling in any of the
-//                                       folders comes before one that differs in case, and a new
-//                                       one is spelled so. One that is deleted shows none below
-//                                       it, and comes back to where it lay: two games share HOME,
-//                                       and a player's file that moved there would be played by
-//                                       both. One that was never there is made out of the game's
-//                                       template, `Default.ini` or `DefUser.ini`, as the game
-//                                       would make it, or it would start without its keys.
+//     ucc.exe, unrealtournament.exe   the programs in PROGRAMS
+//     unrealtournament.ini, user.ini  each by itself. The game knows them as `UnrealTournament.ini`
+//                                     and `User.ini` only, so a file of that spelling in any of the
+//                                     folders comes before one that differs in case, and a new one
+//                                     is spelled so.
+//                                     It does not look for them in GAME/System, and without any it
+//                                     begins with a copy of its template, `Default.ini` or
+//                                     `DefUser.ini`. So one in GAME/System, and failing that the
+//                                     template, is what is read, and a write makes that copy first.
+//                                     One that is deleted shows none below it, and comes back to
+//                                     where it lay: two games share HOME, and a player's file that
+//                                     moved there would be played by both.
 //
 // What ucc makes of a file lies beside it: `x.unr.uz` is first looked for where `x.unr` is.
 //
@@ -83,7 +87,7 @@ class LayeredFolder {
     HostPath toWrite(std::string_view name) const;
     /// The file that goes when the name is deleted; nothing if it has to stay.
     std::optional<HostPath> toDelete(std::string_view name);
-    /// What the game would make a missing file of.
+    /// What the game would make a file of that is not there or has to stay as it is.
     std::optional<HostPath> templateOf(std::string_view name) const;
     /// Makes HOME's folder where it is missing, as far as it can be made.
     void makeUpper() const;

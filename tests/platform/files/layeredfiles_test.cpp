@@ -139,6 +139,25 @@ TEST_F(LayeredFilesTest, AnIniThatIsNotThereIsMadeOfTheGamesTemplate) {
     EXPECT_EQ(NativeGameFolder::read(game.programs() / "Default.ini"), "[URL]\nPort=7777\n");
 }
 
+TEST_F(LayeredFilesTest, AnIniThatTheGameDoesNotLookAtStaysAndIsNotTheTemplate) {
+    put(game.root() / "System" / "User.ini", "[DefaultPlayer]\nName=of Windows\n");
+    put(game.programs() / "DefUser.ini", "[DefaultPlayer]\nName=Player\n");
+    EXPECT_EQ(files().read(userIni), "[DefaultPlayer]\nName=of Windows\n");
+    EXPECT_TRUE(world.profile.writePrivateProfileString("DefaultPlayer", "team", "1", userIni));
+    EXPECT_EQ(NativeGameFolder::read(upper), "[DefaultPlayer]\nName=Player\nteam=1\n");
+    EXPECT_EQ(files().read(userIni), "[DefaultPlayer]\nName=Player\nteam=1\n");
+    EXPECT_EQ(NativeGameFolder::read(game.root() / "System" / "User.ini"),
+              "[DefaultPlayer]\nName=of Windows\n");
+}
+
+TEST_F(LayeredFilesTest, ATemplateThatIsReadInPlaceOfAnIniCannotBeDeleted) {
+    put(game.programs() / "DefUser.ini", "template");
+    EXPECT_EQ(files().firstMatch(userIni, attributes::Normal), "user.ini");
+    EXPECT_EQ(errorOf([&] { files().deleteFiles(userIni); }), errors::PathFileAccess);
+    files().deleteWhatGoes(userIni);
+    EXPECT_EQ(NativeGameFolder::read(game.programs() / "DefUser.ini"), "template");
+}
+
 TEST_F(LayeredFilesTest, AProgramCannotBeDeletedByTheNameOfTheOneForWindows) {
     EXPECT_EQ(errorOf([&] { files().deleteFiles(game.path("System\\ucc.exe")); }),
               errors::PathFileAccess);

@@ -155,6 +155,26 @@ TEST_F(LayersTest, AnIniInTheGamesSpellingComesBeforeOneThatTheGameDoesNotSee) {
     EXPECT_EQ(find("System\\user.ini"), game.programs() / "User.ini");
 }
 
+TEST_F(LayersTest, AnIniInSystemIsReadWhileThereIsNoOtherAndNeverWritten) {
+    putOwn("System/User.ini");
+    EXPECT_EQ(find("System\\user.ini"), game.root() / "System" / "User.ini");
+    EXPECT_EQ(toWrite("System\\user.ini"), game.written() / "System" / "User.ini");
+    put(game.programs() / "user.ini");
+    EXPECT_EQ(find("System\\user.ini"), game.root() / "System" / "User.ini");
+    put(game.programs() / "User.ini");
+    EXPECT_EQ(find("System\\user.ini"), game.programs() / "User.ini");
+}
+
+TEST_F(LayersTest, WithoutAnyIniTheGamesTemplateIsRead) {
+    put(game.programs() / "Default.ini");
+    EXPECT_EQ(find("System\\unrealtournament.ini"), game.programs() / "Default.ini");
+    EXPECT_EQ(toWrite("System\\unrealtournament.ini"),
+              game.written() / "System" / "UnrealTournament.ini");
+    putWritten("System/Default.ini");
+    EXPECT_EQ(find("System\\unrealtournament.ini"), game.written() / "System" / "Default.ini");
+    EXPECT_FALSE(find("System\\user.ini"));
+}
+
 TEST_F(LayersTest, ANewIniIsSpelledAsTheGameSpellsIt) {
     EXPECT_EQ(toWrite("system\\user.ini"), game.written() / "System" / "User.ini");
     EXPECT_EQ(toWrite("system\\UNREALTOURNAMENT.ini"),
