@@ -37,9 +37,8 @@ class NativeExtraction : public NativeSampleTest {
     // Where a file of that kind is to be found afterwards. Nothing for one of no known kind.
     HostPath destination(const std::string& name) const {
         if (name.ends_with(".u")) return written() / "System" / name;
-        for (const auto& [end, folder] : kinds) {
+        for (const auto& [end, folder] : kinds)
             if (name.ends_with(end)) return game() / folder / name;
-        }
         return {};
     }
     static constexpr std::pair<const char*, const char*> kinds[] = {

@@ -46,9 +46,8 @@ NativeStart::NativeStart(fs::path programs)
 
 // The letter case counts: a file of another one is not seen.
 fs::path NativeStart::find(const char* name, const char* madeOf) const {
-    for (const fs::path& folder : {written_, programs_}) {
+    for (const fs::path& folder : {written_, programs_})
         if (fs::exists(folder / name)) return folder / name;
-    }
     for (const fs::path& folder : {written_, programs_}) {
         if (!fs::exists(folder / madeOf)) continue;
         fs::copy_file(folder / madeOf, written_ / name);

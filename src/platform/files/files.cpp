@@ -221,9 +221,8 @@ void Files::deleteFiles(std::string_view pattern) {
 }
 
 void Files::deleteWhatGoes(std::string_view pattern) {
-    for (const auto& file : toDelete(pattern, namesToDelete(pattern))) {
+    for (const auto& file : toDelete(pattern, namesToDelete(pattern)))
         if (file) attempt([&] { deleteFile(host_, *file); });
-    }
 }
 
 void Files::makeFolder(std::string_view folder) {

@@ -32,8 +32,8 @@ namespace tessaro {
 // found, but in Cache: the game never changes what lies below there, and neither do we; a write
 // makes a file above it.
 //
-// HOME is made when something is written to it, for its owner only, as the game makes it; and so is
-// its Cache, once the folder is asked for and neither is there, as in a game that has not downloaded
+// HOME is made when something is written to it, for its owner only, as the game makes it. So is its
+// Cache, once the folder is asked for and neither is there, as in a game that has not downloaded
 // anything yet. Where the game cannot use HOME (a file has its name), the folders below are all
 // there is, and a new file goes to the uppermost of them.
 //

@@ -106,7 +106,7 @@ std::optional<HostPath> Paths::findFull(std::string_view full) {
     }
     auto above = findFull(folder);
     if (!above) return std::nullopt;
-    Folder place = folderAt(folder, *std::move(above));
+    Folder place{*std::move(above), layersOf(folder)};
     auto finding = findIn(place, name);
     if (finding.folder) found_.emplace(folder, std::move(place));
     return std::move(finding.path);
@@ -119,11 +119,6 @@ LayeredFolder::Finding Paths::findIn(const Folder& folder, std::string_view name
         return {true, layers->place()};
     if (!finding.name) return {finding.folder, std::nullopt};
     return {true, folder.path / hostName(*finding.name)};
-}
-
-// A folder that was just found; so was the one above it.
-Paths::Folder Paths::folderAt(std::string_view full, HostPath path) {
-    return {std::move(path), layersOf(full)};
 }
 
 // Of a folder that is known to be there, as the folders above it then are.

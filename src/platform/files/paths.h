@@ -45,7 +45,7 @@ class Paths {
     /// The host folders behind a folder, the upper first; some of several may not be there. None if
     /// there is no such folder.
     std::vector<HostPath> folders(std::string_view folder);
-    /// The stack of them; null where there is but one.
+    /// The stack of them, of a folder that was just looked for; null where there is but one.
     LayeredFolder* layers(std::string_view folder) { return layersOf(absolute(folder)); }
     /// A full path with its names as they are spelled on the disk, as far as they are there.
     std::string spelled(std::string_view full);
@@ -88,7 +88,6 @@ class Paths {
         LayeredFolder* layers = nullptr;  // of several host folders, of which `path` is one
     };
     LayeredFolder::Finding findIn(const Folder& folder, std::string_view name);
-    Folder folderAt(std::string_view full, HostPath path);
 
     Host& host_;
     DriveMap roots_;

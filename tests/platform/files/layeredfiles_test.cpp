@@ -269,9 +269,8 @@ TEST_F(LayeredFilesTest, TheUpperIniIsRememberedAsInAnOrdinaryGame) {
     world.write("C:\\ut\\System\\User.ini", "[a]\nb=1\n");
     const auto readings = [&](const std::string& file) {
         const int before = world.host.count(Call::Read);
-        for (int i = 0; i < 10; ++i) {
+        for (int i = 0; i < 10; ++i)
             EXPECT_EQ(world.profile.getPrivateProfileString("a", "b", "", 255, file), "1");
-        }
         return world.host.count(Call::Read) - before;
     };
     EXPECT_EQ(readings(userIni), readings("C:\\ut\\System\\user.ini"));

@@ -117,10 +117,9 @@ TEST_F(LayersTest, LookingMakesNothing) {
 
 TEST_F(LayersTest, WritingMakesTheHomeForItsOwnerOnly) {
     toWrite("System\\new.ini");
-    for (const char* folder : {"", "System"}) {
+    for (const char* folder : {"", "System"})
         EXPECT_EQ(fs::status(game.written() / folder).permissions(), fs::perms::owner_all)
             << folder;
-    }
     EXPECT_FALSE(fs::exists(game.written() / "Cache"));
 }
 
