@@ -27,7 +27,7 @@ void makeWithParents(Host& host, const HostPath& folder) {
 }  // namespace
 
 HostPath programFolder(Host& host, const HostPath& executable, const HostPath& userFolder) {
-    const HostPath beside = executable.parent_path();
+    HostPath beside = executable.parent_path();
     if (takesFiles(host, beside)) return beside;
     attempt([&] { makeWithParents(host, userFolder); });
     return takesFiles(host, userFolder) ? userFolder : beside;

@@ -19,7 +19,7 @@ HostPath homeFolder() {
 HostPath userDataFolder() {
     const char* data = std::getenv("XDG_DATA_HOME");
     // A relative one is to be taken for none, says the convention.
-    const bool told = data && HostPath(data).is_absolute();
+    const bool told = data != nullptr && HostPath(data).is_absolute();
     return (told ? HostPath(data) : homeFolder() / ".local" / "share") / "tessaro";
 }
 

@@ -268,7 +268,7 @@ std::unique_ptr<Host> makeHost() {
 }
 
 HostPath hostPath(std::string_view text) {
-    return HostPath(text);
+    return {text};
 }
 
 HostPath executablePath() {

@@ -348,7 +348,9 @@ TEST(PosixHost, AKilledWriterLeavesTheOneTextOrTheOtherAndNothingBeside) {
     std::uniform_int_distribution<int> calls(0, 2'000);
     int inTheMiddle = 0;
     int leftBeside = 0;
-    for (int kill = 0; kill < 200; ++kill) {
+    // How many hit the middle is the machine's affair: it goes on until enough have.
+    for (int kill = 0; inTheMiddle <= 20 || kill < 200; ++kill) {
+        ASSERT_LT(kill, 5'000) << inTheMiddle << " in the middle";
         if (killAfter(file, turns(chance), calls(chance))) ++inTheMiddle;
         const std::string text = TestWorld::readHost(file);
         ASSERT_TRUE(text == oneText || text == otherText) << "kill " << kill;
@@ -358,7 +360,6 @@ TEST(PosixHost, AKilledWriterLeavesTheOneTextOrTheOtherAndNothingBeside) {
         ASSERT_TRUE(TestWorld::readHost(file) == oneText);
         ASSERT_THAT(TestWorld::namesIn(real.folder.path()), testing::ElementsAre("user.ini"));
     }
-    EXPECT_GT(inTheMiddle, 20);
     EXPECT_LT(leftBeside, inTheMiddle);
 }
 
