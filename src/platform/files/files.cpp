@@ -205,7 +205,7 @@ std::vector<std::optional<HostPath>> Files::toDelete(std::string_view pattern,
     std::vector<std::optional<HostPath>> found;
     found.reserve(names.size());
     for (const std::string& name : names)
-        found.push_back(layers ? layers->toDelete(name) : place / hostName(name));
+        found.push_back(layers ? layers->toDelete(name) : inFolder(place, hostName(name)));
     for (const HostPath& each : layers ? layers->folders() : std::vector{place})
         paths_.forget(each);
     return found;

@@ -118,7 +118,7 @@ LayeredFolder::Finding Paths::findIn(const Folder& folder, std::string_view name
     if (const LayeredFolder* layers = finding.folder ? layers_.in(folder.path, name) : nullptr)
         return {true, layers->place()};
     if (!finding.name) return {finding.folder, std::nullopt};
-    return {true, folder.path / hostName(*finding.name)};
+    return {true, inFolder(folder.path, hostName(*finding.name))};
 }
 
 // Of a folder that is known to be there, as the folders above it then are.
