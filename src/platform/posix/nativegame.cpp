@@ -37,8 +37,9 @@ HostPath programIn(Host& host, const HostPath& folder, const std::string& name) 
     return {};
 }
 
+// Only the programs are asked for: a check of the game's folders, one after the other, asks for
+// each when its turn comes.
 std::optional<NativeGame> gameStartedFrom(Host& host, const HostPath& programs) {
-    if (!isFolder(host, programs)) return std::nullopt;
     NativeGame game{
         programs, programIn(host, programs, "ucc-bin"), programIn(host, programs, "ut-bin"), {}};
     if (game.ucc.empty() && game.game.empty()) return std::nullopt;
