@@ -96,6 +96,7 @@ LayeredFolder::Finding LayeredFolder::findProfile(const Profile& profile) const 
     }
     if (found.path) {
         found.kept = folders_[found.layer] == own_ && own_ != game_.programs;
+        deleted_.erase(profile.name);
     } else if (deleted == deleted_.end()) {
         found = search(profile.madeOf, folders_.size());
         found.first = false;

@@ -108,7 +108,7 @@ class LayeredFolder {
     NativeGame game_;
     HostPath own_;
     std::vector<HostPath> folders_;
-    std::map<std::string_view, std::size_t> deleted_;  // profile -> where it lay
+    mutable std::map<std::string_view, std::size_t> deleted_;  // profile not back yet -> its layer
 };
 
 /// All stacks that were met.

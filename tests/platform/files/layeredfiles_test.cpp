@@ -198,6 +198,16 @@ TEST_F(LayeredFilesTest, ADeletedIniShowsNoneBelowAndComesBackToItsPlace) {
     EXPECT_EQ(NativeGameFolder::read(middle), "middle");
 }
 
+TEST_F(LayeredFilesTest, AnIniThatCameBackAndThenWentByOtherHandsShowsTheOneBelow) {
+    put(upper, "upper");
+    put(middle, "middle");
+    files().deleteFiles(userIni);
+    files().replace(userIni, "new");
+    EXPECT_EQ(files().read(userIni), "new");
+    fs::remove(upper);
+    EXPECT_EQ(files().read(userIni), "middle");
+}
+
 TEST_F(LayeredFilesTest, AnIniOfTheProgramsFolderComesBackThere) {
     put(middle, "middle");
     put(world.folder() / "copy.bak", "swapped in");
