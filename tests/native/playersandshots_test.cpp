@@ -53,6 +53,16 @@ TEST_F(NativePlayers, OfTwoInisTheUpperIsSwappedAndTheLowerStays) {
     EXPECT_TRUE(read(programs() / "User.ini") == lower);
 }
 
+TEST_F(NativePlayers, InAGameThatWasNeverStartedASwapMakesTheIniThatItWillRead) {
+    fs::remove(programs() / "User.ini");
+    const std::string madeOf = read(programs() / "DefUser.ini");
+    manager.open();
+    setAsCurrent(2);
+    EXPECT_TRUE(read(written() / "System" / "User.ini") == copy(1));
+    EXPECT_FALSE(fs::exists(programs() / "User.ini"));
+    EXPECT_TRUE(read(programs() / "DefUser.ini") == madeOf);
+}
+
 TEST_F(NativePlayers, ASavedPlayerComesBackTheSameByteForByte) {
     world.dialogs.answer(Answer::Yes);
     userMan.OfferSaveCurrentPlayer(users);
