@@ -18,7 +18,8 @@ class NativeForms : public FormsTest {
     NativeForms() {
         const std::string root = game_.path();
         program_.gamePaths = {root, root + "\\cache", root + "\\maps", root + "\\system"};
-        program_.settings.Sounds = "0";
+        auto& settings = program_.settings;
+        settings.Sounds = settings.AutoSave = settings.ShowSplash = settings.WindowSize = "0";
         world_.world.write("C:\\Tessaro\\vornx.ini", "[UTPaths]\r\nUTPath=" + root + "\r\n");
         NativeGameFolder::write(game_.written() / "Cache" / "cache.ini", "[Cache]\n");
         NativeGameFolder::write(game_.programs() / "UnrealTournament.ini",

@@ -34,9 +34,7 @@ class NativeSampleTest : public ::testing::Test {
         std::filesystem::copy(sharedNativeSample().game.parent_path(), folder(),
                               std::filesystem::copy_options::recursive);
         auto& settings = program.settings;
-        for (std::string* off : {&settings.Sounds, &settings.AutoSave, &settings.ShowSplash})
-            *off = "0";
-        settings.WindowSize = "0";
+        settings.Sounds = settings.AutoSave = settings.ShowSplash = settings.WindowSize = "0";
         const std::string root = program.paths.toGame(folder() / "game");
         program.gamePaths = {root, root + "\\cache", root + "\\maps", root + "\\system"};
         world.processes.child = [this](const std::string& line) {
