@@ -75,8 +75,8 @@ void runLoop(const World& world) {
 
 }  // namespace
 
-bool compressBatch() {
-    World world;
+bool compressBatch(const Place& place) {
+    World world(place);
     fill(world);
     const auto timed = [&](const std::function<void()>& work) {
         emptyDestination(world);
@@ -87,7 +87,7 @@ bool compressBatch() {
     const Medians medians = takeTurns(
         rounds, [&] { return timed([&] { runBatch(world); }); },
         [&] { return timed([&] { runLoop(world); }); });
-    return report("compression, a batch of 100 small files", medians, "ms", mark);
+    return report(on(place, "compression, a batch of 100 small files"), medians, "ms", mark);
 }
 
 }  // namespace tessaro::bench

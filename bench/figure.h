@@ -16,11 +16,25 @@ struct Medians {
     double reference = 0;
 };
 
+/// What a work takes, in milliseconds: by the clock, and of the processor in this process.
+struct Cost {
+    double clock = 0;
+    double processor = 0;
+};
+struct CostMedians {
+    Medians clock;
+    Medians processor;
+};
+
 /// Takes turns `rounds` times, after one turn that only warms the caches.
 Medians takeTurns(int rounds, const Measurement& ours, const Measurement& reference);
+/// The same of both costs at once.
+CostMedians takeTurns(int rounds, const std::function<Cost()>& ours,
+                      const std::function<Cost()>& reference);
 /// The middle one of several values.
 double median(std::vector<double> values);
 
+Cost costOf(const std::function<void()>& work);
 /// Milliseconds that the work takes by the clock.
 double wallMilliseconds(const std::function<void()>& work);
 /// Milliseconds of processor time that the work takes in this process. For what waits for nothing.
@@ -28,5 +42,7 @@ double cpuMilliseconds(const std::function<void()>& work);
 
 /// Prints a figure's line and gives whether its ratio is at most the mark.
 bool report(const std::string& name, const Medians& medians, const char* unit, double mark);
+/// Prints a line for what has no reference.
+void tell(const std::string& name, double value, const char* unit);
 
 }  // namespace tessaro::bench

@@ -13,9 +13,10 @@ int main() {
         bool kept = true;
         for (const auto figure :
              {extractMissingFiles, extractMissingNativeFiles, extractPresentFiles, profileFile,
-              importFavorites, serverList, playerList, firstPaint, editor, screenshots, openings,
-              compressBatch})
-            kept = figure() && kept;
+              importFavorites, serverList, playerList, editor, screenshots, compressBatch}) {
+            for (const Place& place : {disk(), memory()}) kept = figure(place) && kept;
+        }
+        for (const auto figure : {firstPaint, openings}) kept = figure() && kept;
         return kept ? 0 : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "The benchmarks broke off: %s\n", error.what());

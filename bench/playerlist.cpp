@@ -80,19 +80,19 @@ void listFolder(const std::string& folder) {
 }  // namespace
 
 // Processor time: the folder is in memory, and nothing waits.
-bool playerList() {
-    World world;
+bool playerList(const Place& place) {
+    World world(place);
     fillArchive(world);
     const std::string list = world.at(listFile);
     const std::string folder = world.at(copiesFolder);
     const Medians loading = takeTurns(
         rounds, [&] { return loadList(world); },
         [&] { return cpuMilliseconds([&] { statEachLine(list, folder); }); });
-    const bool loads = report("LoadPlayerList, 10,000 players", loading, "ms", mark);
+    const bool loads = report(on(place, "LoadPlayerList, 10,000 players"), loading, "ms", mark);
     const Medians choosing = takeTurns(
         rounds, [&] { return chooseName(world); },
         [&] { return cpuMilliseconds([&] { listFolder(folder); }); });
-    return report("NextBackupName, 10,000 numbers taken", choosing, "ms", mark) && loads;
+    return report(on(place, "NextBackupName, 10,000 numbers taken"), choosing, "ms", mark) && loads;
 }
 
 }  // namespace tessaro::bench

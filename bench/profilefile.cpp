@@ -67,7 +67,8 @@ void require(bool right) {
 // One file for each side, since each writes it in its own way.
 class Sides {
   public:
-    Sides() : world_("/dev/shm"), fresh_(world_), ini_(fresh_.program.makeINI()) {
+    explicit Sides(const Place& place)
+        : world_(place), fresh_(world_), ini_(fresh_.program.makeINI()) {
         world_.write(fileName, profileText());
         ini_.inifile(fileName);
         reference_ = world_.at("C:\\reference.ini");
@@ -96,13 +97,15 @@ class Sides {
     int written_ = 0;
 };
 
-bool compare(const char* name, Sides& sides, void (Sides::*ours)(), void (Sides::*reference)()) {
+// Processor time: how long the disk's flush takes is the disk's affair.
+bool compare(const std::string& name, Sides& sides, void (Sides::*ours)(),
+             void (Sides::*reference)()) {
     const auto measurement = [&sides](void (Sides::*call)()) {
         return [&sides, call] {
             const auto calls = [&] {
                 for (int i = 0; i < callsInARound; ++i) (sides.*call)();
             };
-            return wallMilliseconds(calls) / callsInARound;
+            return cpuMilliseconds(calls) / callsInARound;
         };
     };
     return report(name, takeTurns(rounds, measurement(ours), measurement(reference)), "ms", mark);
@@ -110,12 +113,12 @@ bool compare(const char* name, Sides& sides, void (Sides::*ours)(), void (Sides:
 
 }  // namespace
 
-bool profileFile() {
-    Sides sides;
-    const bool reads =
-        compare("getKeyValue, end of a 77 KB file", sides, &Sides::readOurs, &Sides::readReference);
-    const bool writes = compare("setKeyValue, end of a 77 KB file", sides, &Sides::writeOurs,
-                                &Sides::writeReference);
+bool profileFile(const Place& place) {
+    Sides sides(place);
+    const bool reads = compare(on(place, "getKeyValue, end of a 77 KB file"), sides,
+                               &Sides::readOurs, &Sides::readReference);
+    const bool writes = compare(on(place, "setKeyValue, end of a 77 KB file"), sides,
+                                &Sides::writeOurs, &Sides::writeReference);
     return reads && writes;
 }
 

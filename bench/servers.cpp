@@ -57,10 +57,10 @@ std::string gameIniWith(int favorites) {
     return text;
 }
 
-// A game with so many favourites. It lies on a disk, as a player's does.
+// A game with so many favourites.
 class Game {
   public:
-    explicit Game(int favorites) : favorites_(favorites) {
+    Game(const Place& place, int favorites) : world_(place), favorites_(favorites) {
         world_.write(gameIni, gameIniWith(favorites));
     }
 
@@ -109,7 +109,7 @@ void writeLines(const HostPath& file, const std::vector<std::string>& lines) {
     require(bool(stream));
 }
 
-bool compareLoads(World& world) {
+bool compareLoads(const Place& place, World& world) {
     FreshProgram fresh(world);
     const auto load = [&] {
         ListItems list = makeServerList();
@@ -120,10 +120,10 @@ bool compareLoads(World& world) {
     const Medians medians = takeTurns(
         rounds, [&] { return cpuMilliseconds(load); },
         [&] { return cpuMilliseconds([&] { readLines(file); }); });
-    return report("load of 10,000 servers", medians, "ms", listMark);
+    return report(on(place, "load of 10,000 servers"), medians, "ms", listMark);
 }
 
-bool compareSaves(World& world) {
+bool compareSaves(const Place& place, World& world) {
     FreshProgram fresh(world);
     ListItems list = makeServerList();
     LoadServerList(fresh.program, list);
@@ -133,31 +133,33 @@ bool compareSaves(World& world) {
     const Medians medians = takeTurns(
         rounds, [&] { return cpuMilliseconds([&] { SaveServerList(fresh.program, list); }); },
         [&] { return cpuMilliseconds([&] { writeLines(copy, lines); }); });
-    return report("save of 10,000 servers", medians, "ms", listMark);
+    return report(on(place, "save of 10,000 servers"), medians, "ms", listMark);
 }
 
 }  // namespace
 
-bool importFavorites() {
-    Game large(many);
-    Game small(few);
+bool importFavorites(const Place& place) {
+    Game large(place, many);
+    Game small(place, few);
     const Medians whole = takeTurns(
         rounds, [&] { return large.import(); },
         [&] { return cpuMilliseconds([&] { large.readWithGLib(); }); });
     const Medians entry = takeTurns(
         rounds, [&] { return large.importPerEntry(); }, [&] { return small.importPerEntry(); });
-    const bool fast = report("import of 10,000 favourites, 1 MB", whole, "ms", importMark);
-    return report("one of 10,000 favourites, one of 100", entry, "us", entryMark) && fast;
+    const bool fast =
+        report(on(place, "import of 10,000 favourites, 1 MB"), whole, "ms", importMark);
+    return report(on(place, "one of 10,000 favourites, one of 100"), entry, "us", entryMark) &&
+           fast;
 }
 
-// On a memory file system: how long the disk's flush takes is the disk's affair.
-bool serverList() {
-    World world("/dev/shm");
+// Processor time: how long the disk's flush takes is the disk's affair.
+bool serverList(const Place& place) {
+    World world(place);
     std::string text;
     for (int i = 0; i < many; ++i) text += lineOf(i) + "\r\n";
     world.write(serverFile, text);
-    const bool loads = compareLoads(world);
-    return compareSaves(world) && loads;
+    const bool loads = compareLoads(place, world);
+    return compareSaves(place, world) && loads;
 }
 
 }  // namespace tessaro::bench

@@ -25,25 +25,25 @@ constexpr Line editorLines[] = {{"editor, load of 10 MB", 1.30},
 constexpr Line screenshotLines[] = {{"screenshots, opening on 2,000", 1.50},
                                     {"screenshots, step to the next", 1.30}};
 
-// Reports what a program of `window/` tells, a line for each of `lines`.
+// Reports what a program of `window/` tells of a place, a line for each of `lines`.
 template <std::size_t count>
-bool reportToldBy(const char* name, const Line (&lines)[count]) {
+bool reportToldBy(const char* name, const Place& place, const Line (&lines)[count]) {
     const HostPath program = executablePath().parent_path() / name;
-    std::istringstream told(outputOf({program.string()}));
+    std::istringstream told(outputOf({program.string(), place.folder.string()}));
     bool kept = true;
     for (const Line& line : lines) {
         Medians medians;
         if (!(told >> medians.ours >> medians.reference))
             throw std::runtime_error(program.string() + " did not tell of: " + line.name);
-        kept = report(line.name, medians, "ms", line.mark) && kept;
+        kept = report(on(place, line.name), medians, "ms", line.mark) && kept;
     }
     return kept;
 }
 
 }  // namespace
 
-bool editor() {
-    return reportToldBy("tessaro-bench-editor", editorLines);
+bool editor(const Place& place) {
+    return reportToldBy("tessaro-bench-editor", place, editorLines);
 }
 
 bool openings() {
@@ -60,8 +60,8 @@ bool openings() {
     return kept;
 }
 
-bool screenshots() {
-    return reportToldBy("tessaro-bench-screenshots", screenshotLines);
+bool screenshots(const Place& place) {
+    return reportToldBy("tessaro-bench-screenshots", place, screenshotLines);
 }
 
 }  // namespace tessaro::bench

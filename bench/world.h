@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "bench/place.h"
 #include "core/program.h"
 
 namespace tessaro::bench {
@@ -15,7 +16,7 @@ class NoDialogs : public Dialogs {
     std::string input(const std::string&, const std::string&, const std::string&) override {
         return {};
     }
-    std::string pickFolder(const std::string&) override { return {}; }
+    std::string pickFolder(const FolderPicker&) override { return {}; }
     std::string pickFileToOpen(const FilePicker&) override { return {}; }
     std::string pickFileToSave(const FilePicker&) override { return {}; }
 };
@@ -45,7 +46,8 @@ class JumpingClock : public Events {
 /// A Wine prefix in a folder of its own, removed at the end, with the current folder inside.
 class World {
   public:
-    explicit World(const HostPath& above = std::filesystem::temp_directory_path());
+    explicit World(const HostPath& above);
+    explicit World(const Place& place) : World(place.folder) {}
     ~World();
     World(const World&) = delete;
     World& operator=(const World&) = delete;

@@ -212,11 +212,11 @@ void measure(World& world) {
     EditorProgram program(world);
     PlainBox plain(program.box());
     const Medians longLines = load(program, plain, longFile, world.at(longFile));
-    tell(load(program, plain, file, world.at(file)));
-    tell(longLines);
-    tell(edit(program.box(), plain.box()));
-    tell(save(program, world));
-    tell(search());
+    hand(load(program, plain, file, world.at(file)));
+    hand(longLines);
+    hand(edit(program.box(), plain.box()));
+    hand(save(program, world));
+    hand(search());
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <string>
+#include <vector>
 
 namespace tessaro::bench {
 namespace {
@@ -24,24 +25,33 @@ long residentKilobytes() {
     return kilobytes;
 }
 
-long long now() {
-    return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
+std::vector<long long>& moments() {
+    static std::vector<long long> noted;
+    return noted;
 }
 
-bool isMainWindow(QObject* watched) {
+bool isInMainWindow(QObject* watched) {
     const auto* widget = qobject_cast<QWidget*>(watched);
     return widget != nullptr && qobject_cast<QMainWindow*>(widget->window()) != nullptr;
 }
 
 }  // namespace
 
+void noteMoment() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    moments().push_back(std::chrono::nanoseconds(now).count());
+}
+
 FirstPaint::FirstPaint() {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
 bool FirstPaint::eventFilter(QObject* watched, QEvent* event) {
-    if (!seen_ && event->type() == QEvent::Paint && isMainWindow(watched)) {
+    if (event->type() == QEvent::Polish && qobject_cast<QMainWindow*>(watched) != nullptr)
+        noteMoment();
+    if (!seen_ && event->type() == QEvent::Paint && isInMainWindow(watched)) {
         seen_ = true;
+        noteMoment();
         // Ahead of all else that waits, but not before this paint is over.
         QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
     }
@@ -50,8 +60,10 @@ bool FirstPaint::eventFilter(QObject* watched, QEvent* event) {
 
 bool FirstPaint::event(QEvent* event) {
     if (event->type() != QEvent::User) return QObject::event(event);
-    const long long painted = now();
-    std::printf("%lld %ld\n", painted, residentKilobytes());
+    noteMoment();
+    std::printf("%ld", residentKilobytes());
+    for (const long long moment : moments()) std::printf(" %lld", moment);
+    std::printf("\n");
     std::fflush(stdout);
     ::_exit(EXIT_SUCCESS);  // what the end of a program takes is not asked for
 }

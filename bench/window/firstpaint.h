@@ -4,11 +4,15 @@
 
 namespace tessaro::bench {
 
+/// Notes a moment of the program's start.
+void noteMoment();
+
 /// Ends the program as soon as a main window has been painted whole, and prints one line:
 ///
-///     nanoseconds of the steady clock, resident kilobytes
+///     resident kilobytes, then each moment noted, in nanoseconds of the steady clock
 ///
-/// The line is written once the paint under way has been pushed to the screen.
+/// Notes three moments itself: when the window is about to be shown, when its first paint begins,
+/// and when that paint has been pushed to the screen.
 class FirstPaint : public QObject {
   public:
     /// Watches the application, which must exist.

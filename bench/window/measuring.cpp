@@ -2,13 +2,13 @@
 
 #include <QApplication>
 #include <cstdio>
-#include <exception>
+#include <stdexcept>
 
 #include "kit/look/style.h"
 
 namespace tessaro::bench {
 
-void tell(const Medians& medians) {
+void hand(const Medians& medians) {
     std::printf("%f %f\n", medians.ours, medians.reference);
 }
 
@@ -16,7 +16,8 @@ int measureWindows(int argc, char** argv, void (*measure)(World&)) {
     QApplication application(argc, argv);
     applyProgramStyle(application);
     try {
-        World world;
+        if (argc != 2) throw std::invalid_argument("wanted: a folder");
+        World world(argv[1]);
         measure(world);
         return 0;
     } catch (const std::exception& error) {

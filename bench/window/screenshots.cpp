@@ -1,7 +1,7 @@
 // tessaro-bench-screenshots: the screenshot viewer on 2,000 shots, against plain Qt. Tells a line
 // for its opening, and one for a step to another picture.
 //
-// Processor time, as nothing waits: the files are in memory.
+// Processor time: the files are in the system's memory, and nothing waits.
 
 #include <QCoreApplication>
 #include <QDir>
@@ -109,8 +109,8 @@ Medians stepping(World& world) {
 
 void measure(World& world) {
     takeShots(world);
-    tell(opening(world));
-    tell(stepping(world));
+    hand(opening(world));
+    hand(stepping(world));
 }
 
 }  // namespace

@@ -18,6 +18,7 @@ class Application {
     Application(int& argc, char** argv);
 
     Forms& forms() { return forms_; }
+    Program& program() { return program_; }
     /// Starts the main window and serves events until no form is left. Gives the exit code.
     int run();
 

@@ -9,6 +9,7 @@ namespace tessaro {
 namespace {
 
 constexpr double secondsPerFile = 0.1;
+constexpr std::string_view separator = ",     ";
 
 }  // namespace
 
@@ -83,7 +84,9 @@ void Extraction::pass(const std::string& cacheFolder) {
 // The game has removed the file: counted, and the walk goes on.
 void Extraction::noteFailure() {
     const std::string number = std::to_string(entry.linecnt2);
-    List2.push_back(entry.cfile + ",     " + number);
+    std::string& failure = List2.emplace_back();
+    failure.reserve(entry.cfile.size() + separator.size() + number.size());
+    failure.append(entry.cfile).append(separator).append(number);
     observer_.show(ExtractionBox::Failed, number);
     ++entry.linecnt2;
 }

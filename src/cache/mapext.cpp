@@ -7,6 +7,7 @@
 #include "core/centerform.h"
 #include "core/routines.h"
 #include "kit/controls/listview.h"
+#include "kit/controls/option.h"
 #include "kit/forms/handler.h"
 #include "kit/look/text.h"
 #include "platform/runtime/runtimeerror.h"
@@ -35,6 +36,7 @@ mapext::~mapext() {
 
 void mapext::setupStepOne() {
     ui_->Command4->setMaximumWidth(3 * ui_->Command4->fontMetrics().height());
+    refit(*ui_->Command4);
     ui_->Drive1->use(program_.files);
     ui_->Dir1->use(program_.files);
     on(ui_->Drive1, &DriveList::changed, forms(), [this] { changeDrive(); });
@@ -47,8 +49,8 @@ void mapext::setupStepOne() {
 
 void mapext::setupStepTwo() {
     setNewFolderVisible(false);
-    on(ui_->Option1, &QRadioButton::clicked, forms(), [this] { setNewFolderVisible(false); });
-    on(ui_->Option2, &QRadioButton::clicked, forms(), [this] { chooseNewFolder(); });
+    onSet(*ui_->Option1, forms(), [this] { setNewFolderVisible(false); });
+    onSet(*ui_->Option2, forms(), [this] { chooseNewFolder(); });
     on(ui_->Command10, &QPushButton::clicked, forms(), [this] { browseDestination(); });
     on(ui_->Command1, &QPushButton::clicked, forms(), [this] { createFolder(); });
     on(ui_->Command6, &QPushButton::clicked, forms(),
@@ -58,7 +60,6 @@ void mapext::setupStepTwo() {
 
 void mapext::setupStepThree() {
     ui_->ListView1->show(extraction_.ListView1);
-    setColumnWidths(*ui_->ListView1, {0, 16, 12});
     on(ui_->ListView1, &ListView::columnClicked, forms(),
        [this](int column) { extraction_.sortBy(column); });
     on(ui_->Command8, &QPushButton::clicked, forms(), [this] { extract(); });
@@ -146,8 +147,8 @@ void mapext::setNewFolderVisible(bool visible) {
 }
 
 void mapext::browseDestination() {
-    const std::string answer =
-        BrowseForFolder(program_, "Where Do you wish to Extract your Map Files to?");
+    const std::string answer = BrowseForFolder(
+        program_, {"Where Do you wish to Extract your Map Files to?", fromQt(ui_->Text2->text())});
     if (answer.empty()) return;
     ui_->Text2->setText(toQt(answer));
     program_.settings.ExtractDest = answer;

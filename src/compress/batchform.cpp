@@ -8,10 +8,7 @@
 namespace tessaro {
 
 void BatchForm::setUpLists(std::initializer_list<List> lists) {
-    for (const List& list : lists) {
-        list.view->show(*list.items);
-        setColumnWidths(*list.view, {0, 14});
-    }
+    for (const List& list : lists) list.view->show(*list.items);
 }
 
 void BatchForm::setUpButtons(QPushButton& close, const std::function<void()>& run) {

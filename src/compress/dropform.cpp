@@ -12,7 +12,6 @@ DropForm::DropForm(Forms& forms, Program& program, PackageTool tool, const Frame
 
 void DropForm::setUpList(ListView& list, QPushButton& remove, QPushButton& start) {
     list.show(dropped_);
-    setColumnWidths(list, {22, 0, 14});
     new FileDrop(forms(), program_.paths, list, [this](const std::vector<std::string>& paths) {
         dropFiles(program_, tool_, dropped_, paths);
     });

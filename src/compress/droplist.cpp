@@ -86,7 +86,7 @@ bool askDestination(Program& program, PackageTool tool, const ListItems& list) {
     }
     const bool compressor = tool == PackageTool::Compressor;
     std::string& destination = compressor ? program.CompressDest : program.DecompressDest;
-    destination = BrowseForFolder(program, destinationPrompt(tool));
+    destination = BrowseForFolder(program, {destinationPrompt(tool), destination});
     return !destination.empty();
 }
 

@@ -1,6 +1,7 @@
 #include "core/MainFrm.h"
 
 #include <QEvent>
+#include <QScreen>
 #include <utility>
 
 #include "core/centerform.h"
@@ -15,6 +16,7 @@
 namespace tessaro {
 namespace {
 
+constexpr QSize usualFrame(8, 32);  // that desktops draw around a window
 const QColor groundOfPicture(0x0A, 0x16, 0x22);
 
 }  // namespace
@@ -26,6 +28,7 @@ MainFrm::MainFrm(Forms& forms, Program& program, MainParts& parts)
       parts_(parts),
       ui_(std::make_unique<Ui::MainFrm>()) {
     ui_->setupUi(this);
+    resize(size().boundedTo(screen()->availableSize() - usualFrame));
     ui_->client->setPalette(QPalette(groundOfPicture));
     ui_->Image1->setPixmap(programPicture(QStringLiteral(":/pictures/main.png")));
     fitToFrame();

@@ -45,8 +45,8 @@ YesNo AnyListViewItemSelected(const ListItems& ListView1) {
     return yesNo(anyItemSelected(ListView1));
 }
 
-std::string BrowseForFolder(Program& program, const std::string& title) {
-    return program.dialogs.pickFolder(title);
+std::string BrowseForFolder(Program& program, const FolderPicker& picker) {
+    return program.dialogs.pickFolder(picker);
 }
 
 }  // namespace tessaro

@@ -22,6 +22,6 @@ std::string FileNamePart(std::string_view path);
 YesNo AnyListViewItemSelected(const ListItems& ListView1);
 
 /// A folder chosen by the user, or an empty text.
-std::string BrowseForFolder(Program& program, const std::string& title);
+std::string BrowseForFolder(Program& program, const FolderPicker& picker);
 
 }  // namespace tessaro

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::string_view lineBreak = "\r\n";
 constexpr std::u16string_view usualEnd = u"\r\n";
+constexpr std::size_t roomForTyped = 4096;
 
 }  // namespace
 
@@ -76,6 +77,7 @@ std::u16string FileText::joined(const std::vector<Piece>& pieces) const {
 std::optional<std::string> FileText::spliced(const std::vector<Piece>& pieces) const {
     const Encoding encoding = loaded_.encoding();
     std::string bytes(markOf(encoding));
+    bytes.reserve(loaded_.size() + roomForTyped);
     for (const Piece& piece : pieces) {
         const auto typed = encodePiece(fromBox(piece.typed, encoding), encoding);
         if (!typed) return std::nullopt;

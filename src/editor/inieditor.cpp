@@ -1,6 +1,8 @@
 #include "editor/inieditor.h"
 
+#include <QScreen>
 #include <QWindow>
+#include <algorithm>
 
 #include "core/MainFrm.h"
 #include "editor/findfrm.h"
@@ -57,7 +59,8 @@ void inieditor::placeLabels() {
         label->move(left, pixels(menuTop) - label->height());
         left += label->width();
     }
-    setMinimumWidth(left * 5);  // the plate leaves a fifth on either side
+    const int plateFree = left * 5;  // it leaves a fifth on either side
+    setMinimumWidth(std::min(plateFree, screen()->availableSize().width()));
 }
 
 void inieditor::popUp(QMenu& menu, double left) {

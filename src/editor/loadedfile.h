@@ -16,6 +16,8 @@ class LoadedFile {
     explicit LoadedFile(std::string bytes);
 
     Encoding encoding() const { return encoding_; }
+    /// In bytes.
+    std::size_t size() const { return bytes_.size(); }
     const std::u16string& text() const { return text_; }
 
     std::size_t lineCount() const { return starts_.size() - 1; }

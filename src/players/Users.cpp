@@ -1,7 +1,5 @@
 #include "players/Users.h"
 
-#include <QHeaderView>
-
 #include "core/MainFrm.h"
 #include "core/centerform.h"
 #include "kit/forms/handler.h"
@@ -26,11 +24,7 @@ Users::~Users() = default;
 
 void Users::setupList() {
     ui_->ListView1->show(rows_);
-    setColumnWidths(*ui_->ListView1, {16, 20, 8, 26, 30, 30, 19});
-    ui_->ListView1->header()->setStretchLastSection(true);
-    // The form opens as wide as its columns, whatever the font.
     ui_->ListView1->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    resize(size().expandedTo(sizeHint()));
     on(ui_->ListView1, &ListView::doubleClicked, forms(), [this] { ui_->Command7->click(); });
 }
 
@@ -46,6 +40,7 @@ void Users::Load() {
     PrepareForm(*this);
     ApplySkin(program_, forms(), *this);
     rules_.open();
+    refit(*ui_->ListView1);  // as wide as its columns
 }
 
 void Users::Unload() {

@@ -12,7 +12,8 @@ ascii::ascii(Forms& forms, Program& program)
     : SkinnedForm(forms, {.caption = "ASCII Viewer",
                           .title = "ASCII Viewer",
                           .secondButton = true,
-                          .dragBy = DragBy::Plate}),
+                          .dragBy = DragBy::Plate,
+                          .secondButtonTask = "Help"}),
       ui_(std::make_unique<Ui::asciiContent>()),
       program_(program) {
     setUpContent(*ui_);
@@ -24,14 +25,12 @@ ascii::~ascii() = default;
 
 void ascii::setupChart() {
     ui_->Text2->setFixedWidth(2 * ui_->Text2->fontMetrics().height());
+    refit(*ui_->Text2);
     on(ui_->List1, &CharacterList::mousePressed, forms(), [this] { showPicked(); });
     on(ui_->List1, &CharacterList::chosen, forms(), [this] { addPicked(); });
 }
 
 void ascii::setupHelp() {
-    CommandQ->setText(QStringLiteral("?"));
-    CommandQ->setAccessibleName(QStringLiteral("Help"));
-    CommandQ->setToolTip(CommandQ->accessibleName());
     on(CommandQ, &QPushButton::clicked, forms(), [this] { showHelp(); });
 }
 

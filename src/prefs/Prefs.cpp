@@ -1,10 +1,12 @@
 #include "prefs/Prefs.h"
 
 #include <QApplication>
+#include <QSignalBlocker>
 #include <algorithm>
 
 #include "core/MainFrm.h"
 #include "core/centerform.h"
+#include "kit/controls/option.h"
 #include "kit/forms/handler.h"
 #include "kit/look/text.h"
 #include "shell/Skins.h"
@@ -15,8 +17,15 @@ namespace {
 
 constexpr int mostDigitsOfDays = 3;
 
+// What the dialog is filled with is no click.
+void setOption(QAbstractButton& option, bool chosen) {
+    const QSignalBlocker unheard(option);
+    option.setChecked(chosen);
+}
+
 // 0 clear, 1 ticked, 2 greyed; what else a settings file may hold counts as off.
 void setCheckValue(QCheckBox& box, int value) {
+    const QSignalBlocker unheard(box);
     if (value == 2) return box.setCheckState(Qt::PartiallyChecked);
     box.setChecked(value == 1);
 }
@@ -56,7 +65,11 @@ void Prefs::setupCommands() {
     on(ui_->Command1, &QPushButton::clicked, forms(), [this] { rules_.browse(); });
     on(ui_->Command2, &QPushButton::clicked, forms(), [this] { rules_.apply(); });
     on(ui_->Command3, &QPushButton::clicked, forms(), [this] { rules_.clearCache(); });
-    on(ui_->Command5, &QPushButton::clicked, forms(), [this] { rules_.cancel(); });
+    on(ui_->Command5, &QPushButton::clicked, forms(), [this] {
+        // Its letter and a screen reader press it where the focus is not.
+        followFocus(focusWidget(), ui_->Command5);
+        rules_.cancel();
+    });
     setCancelButton(*ui_->Command5);
     on(ui_->Command6, &QPushButton::clicked, forms(), [this] { rules_.ok(); });
 }
@@ -68,14 +81,14 @@ void Prefs::setupDirtyMarks() {
     for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{
              ui_->Check3, ui_->Check4, ui_->Option1, ui_->Option2, ui_->Option3, ui_->Option4,
              ui_->Option5, ui_->Option6, ui_->Option7, ui_->Option8})
-        connect(button, &QAbstractButton::clicked, this, changed);
+        onSet(*button, forms(), changed);
     connect(qApp, &QApplication::focusChanged, this, &Prefs::followFocus);
 }
 
 void Prefs::setupChecks() {
     // A greyed box can be clicked out of that state, but not into it.
     for (QCheckBox* box : {ui_->Check1, ui_->Check2, ui_->Check3, ui_->Check4})
-        connect(box, &QCheckBox::clicked, box, [box] { box->setTristate(false); });
+        onSet(*box, forms(), [box] { box->setTristate(false); });
     connect(ui_->Text2, &QLineEdit::textEdited, this,
             [this] { ui_->Text2->setMaxLength(mostDigitsOfDays); });
 }
@@ -90,6 +103,8 @@ void Prefs::followFocus(const QWidget* left, const QWidget* entered) {
 void Prefs::Load() {
     PrepareForm(*this);
     rules_.open();
+    ui_->pathHint->setVisible(!okEnabled());
+    refit(*ui_->pathHint);
 }
 
 bool Prefs::QueryUnload() {
@@ -134,9 +149,9 @@ void Prefs::showOptions(const PrefsOptions& options) {
     ui_->Text5->setText(toQt(options.extractDest));
     ui_->Text6->setText(toQt(options.defUser));
     ui_->Text7->setText(toQt(options.asciiFont));
-    ui_->Option3->setChecked(options.firstSkin);
-    ui_->Option4->setChecked(options.secondSkin);
-    ui_->Option5->setChecked(options.thirdSkin);
+    setOption(*ui_->Option3, options.firstSkin);
+    setOption(*ui_->Option4, options.secondSkin);
+    setOption(*ui_->Option5, options.thirdSkin);
 }
 
 GameTweaks Prefs::tweaks() {
@@ -146,9 +161,9 @@ GameTweaks Prefs::tweaks() {
 
 void Prefs::showTweaks(const GameTweaks& tweaks) {
     ui_->Text3->setText(toQt(tweaks.mapName));
-    ui_->Option6->setChecked(tweaks.startMap == StartMap::Custom);
-    ui_->Option7->setChecked(tweaks.startMap == StartMap::BlackLogo);
-    ui_->Option8->setChecked(tweaks.startMap == StartMap::Flyby);
+    setOption(*ui_->Option6, tweaks.startMap == StartMap::Custom);
+    setOption(*ui_->Option7, tweaks.startMap == StartMap::BlackLogo);
+    setOption(*ui_->Option8, tweaks.startMap == StartMap::Flyby);
     // Three characters can be typed. A longer number in the game's file stays whole, and is
     // written back whole, until the user edits it.
     const QString days = toQt(tweaks.purgeDays);
@@ -164,6 +179,7 @@ bool Prefs::okEnabled() {
 void Prefs::enableSaving() {
     ui_->Command6->setEnabled(true);
     ui_->Command2->setEnabled(true);
+    ui_->pathHint->hide();
 }
 
 void Prefs::applySkin() {

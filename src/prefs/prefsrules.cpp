@@ -7,6 +7,11 @@
 #include "prefs/wipe.h"
 
 namespace tessaro {
+namespace {
+
+constexpr char gameFolderHint[] = "It holds Sounds, Maps, Textures, System and Cache.";
+
+}  // namespace
 
 PrefsRules::PrefsRules(Program& program, PrefsView& view)
     : program_(program), view_(view), INI(program.makeINI()) {}
@@ -43,7 +48,8 @@ bool PrefsRules::loadTweaks() {
 void PrefsRules::browse() {
     std::string folder;
     do {
-        folder = BrowseForFolder(program_, "Select Your Unreal Tournament Folder.");
+        folder = BrowseForFolder(
+            program_, {"Select Your Unreal Tournament Folder.", view_.folder(), gameFolderHint});
         // An empty choice is refused ahead of the check, which would look into the drive's root.
         if (!folder.empty() && ValidatePaths(program_, folder) == Yes) return accept(folder);
     } while (askForAnother(folder) == Answer::Ok);

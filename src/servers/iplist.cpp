@@ -25,7 +25,6 @@ iplist::~iplist() = default;
 void iplist::setupList() {
     ListView& list = *ui_->ListView1;
     list.show(manager_.ListView1);
-    setColumnWidths(list, {0, 18, 8});
     on(&list, &ListView::columnClicked, forms(), [this](int column) { manager_.sortBy(column); });
     on(&list, &ListView::doubleClicked, forms(), [this] { manager_.playIfSelected(); });
     on(&list, &ListView::menuWanted, forms(),

@@ -43,12 +43,22 @@ void makeMissingFile(Program& program, const std::string& file) {
     program.table.close(number);
 }
 
-// What a line lacks stays as the line before it had it: an empty line shows a server twice.
-void takeFields(std::string_view line, ServerRecord& server) {
+ListItem makeRow(std::string name, std::string address, std::string port) {
+    ListItem row{std::move(name), {}};
+    row.subItems.reserve(2);
+    row.subItems.push_back(std::move(address));
+    row.subItems.push_back(std::move(port));
+    return row;
+}
+
+// What a line lacks stays as the line before had it: an empty line shows a server twice.
+ListItem rowOf(std::string_view line, const ListItem& before) {
     const Fields fields = fieldsOf(line);
-    if (fields[0]) server.ServerName = *fields[0];
-    if (fields[1]) server.IP = *fields[1];
-    if (fields[2]) server.Port = *fields[2];
+    const auto text = [](const std::optional<std::string_view>& field, const std::string& other) {
+        return field ? std::string(*field) : other;
+    };
+    return makeRow(text(fields[0], before.text), text(fields[1], before.subItems[0]),
+                   text(fields[2], before.subItems[1]));
 }
 
 std::string favoriteKey(int number) {
@@ -73,19 +83,11 @@ ListItems makeServerList() {
 }
 
 ServerRecord serverAt(const ListItems& list, std::size_t row) {
-    const ListItem& item = list.item(row);
-    const auto subItem = [&item](std::size_t index) {
-        return index < item.subItems.size() ? item.subItems[index] : std::string();
-    };
-    return {item.text, subItem(0), subItem(1)};
+    return {list.text(row, 0), list.text(row, 1), list.text(row, 2)};
 }
 
 void addServer(ListItems& list, const ServerRecord& server) {
-    ListItem row{server.ServerName, {}};
-    row.subItems.reserve(2);
-    row.subItems.push_back(server.IP);
-    row.subItems.push_back(server.Port);
-    list.addRow(std::move(row));
+    list.addRow(makeRow(server.ServerName, server.IP, server.Port));
 }
 
 void LoadServerList(Program& program, ListItems& list) {
@@ -93,10 +95,11 @@ void LoadServerList(Program& program, ListItems& list) {
     makeMissingFile(program, file);
     const int number = program.table.freeNumber();
     program.table.openInput(number, file);
-    ServerRecord server;
+    const ListItem none = makeRow({}, {}, {});
+    const ListItem* before = &none;
     while (!program.table.endOfFile(number)) {
-        takeFields(program.table.lineInput(number), server);
-        addServer(list, server);
+        const std::size_t row = list.addRow(rowOf(program.table.lineInput(number), *before));
+        before = &list.item(row);
     }
     program.table.close(number);
 }
@@ -107,9 +110,9 @@ void SaveServerList(Program& program, const ListItems& list) {
     program.table.openOutput(number, serverFile(program));
     std::string line;
     for (int i = 1; i <= count; ++i) {
-        const ServerRecord server = serverAt(list, static_cast<std::size_t>(i));
-        line.assign(server.ServerName).append("\\").append(server.IP).append("\\");
-        program.table.printLine(number, line.append(server.Port));
+        const auto row = static_cast<std::size_t>(i);
+        line.assign(list.text(row, 0)).append("\\").append(list.text(row, 1)).append("\\");
+        program.table.printLine(number, line.append(list.text(row, 2)));
     }
     program.table.close(number);
 }

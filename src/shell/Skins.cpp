@@ -54,14 +54,16 @@ void setPicture(QWidget& form, const char* name, const QPixmap& picture) {
 }
 
 // The program's style would paint a paler colour than it is given, a style sheet paints that one.
-// Focus and press have to be told by the sheet then.
+// Focus and press have to be told by the sheet then. The letters are black throughout, which can
+// be read on the colour of every skin and on paler ones.
 QString buttonSheet(const QColor& colour) {
     return QStringLiteral(
-               "QPushButton { background-color: %1; border: 1px solid black; border-radius: 2px }"
+               "QPushButton { background-color: %1; color: black; border: 1px solid black;"
+               " border-radius: 2px }"
                "QPushButton:focus { border: 2px solid black }"
                "QPushButton:hover { background-color: %2 }"
                "QPushButton:pressed { background-color: %3 }")
-        .arg(colour.name(), colour.lighter(115).name(), colour.darker(130).name());
+        .arg(colour.name(), colour.lighter(115).name(), colour.lighter(135).name());
 }
 
 void setButtonColour(QWidget& form, const char* name, const QColor& colour) {
@@ -94,6 +96,7 @@ void dress(QWidget& form, const Skin& skin, const Skinz& store) {
     for (const char* name : skin.fieldNames)
         if (auto* field = control<QWidget>(form, name)) setFieldGround(*field, skin.fields);
     setTitleColour(form, skin.title);
+    form.update();  // the form itself paints the band behind the plate
 }
 
 }  // namespace

@@ -80,7 +80,7 @@ void about::writeCredits() {
     ui_->Text1->resize(scaled(CreditsRoll::width), scaled(CreditsRoll::height));
     ui_->Frame1->setFixedSize(scaled(CreditsRoll::width), scaled(CreditsRoll::firstTop));
     placeCredits();
-    adjustSize();
+    refit(*ui_->Frame1);
 }
 
 void about::tick() {

@@ -169,6 +169,16 @@ TEST_F(DropList, EachToolKeepsTheFolderThatWasChosenForIt) {
                             "Select destination folder to decompress files to:"));
 }
 
+TEST_F(DropList, ThePickerOpensInTheFolderThatWasChosenLast) {
+    list_.add("a.unr");
+    world_.dialogs.pick(R"(C:\Packed)");
+    world_.dialogs.pick("");
+    askDestination(program_, PackageTool::Compressor, list_);
+    askDestination(program_, PackageTool::Compressor, list_);
+    EXPECT_EQ(world_.dialogs.folderPickers[0].folder, "");
+    EXPECT_EQ(world_.dialogs.folderPickers[1].folder, R"(C:\Packed)");
+}
+
 TEST_F(DropList, ACancelledPickerLeavesTheListAsItIs) {
     list_.add("a.unr");
     world_.dialogs.pick("");

@@ -269,11 +269,12 @@ TEST_F(DropForms, TheDecompressorStaysBehindItsBatchWhichBlocks) {
     EXPECT_EQ(forms_.loaded<decomp2>(), nullptr);
 }
 
-TEST_F(DropForms, TheCloseButtonUnloadsAndTheOneBesideItPromisesAndDoesNothing) {
+TEST_F(DropForms, TheCloseButtonUnloadsAndTheOneBesideItCannotBePressed) {
     comp& form = shown<comp>();
     ASSERT_NE(form.CommandQ, nullptr);
-    EXPECT_EQ(form.CommandQ->text() + form.CommandQ->toolTip(), QString());
-    EXPECT_EQ(form.CommandQ->accessibleName(), QStringLiteral("No function"));
+    EXPECT_EQ(form.CommandQ->text(), QStringLiteral("_"));
+    EXPECT_EQ(form.CommandQ->accessibleName(), QStringLiteral("Minimise"));
+    EXPECT_FALSE(form.CommandQ->isEnabled());
     form.CommandQ->click();
     EXPECT_TRUE(form.isVisible());
     EXPECT_FALSE(form.isMinimized());

@@ -93,8 +93,8 @@ TEST(FolderBrowse, AnswerOfThePickerOrNothing) {
     TestProgram game;
     game.dialogs.pick("C:\\UT");
     game.dialogs.pick("");
-    EXPECT_EQ(BrowseForFolder(game.program, "Where?"), "C:\\UT");
-    EXPECT_EQ(BrowseForFolder(game.program, "Where?"), "");
+    EXPECT_EQ(BrowseForFolder(game.program, {"Where?"}), "C:\\UT");
+    EXPECT_EQ(BrowseForFolder(game.program, {"Where?"}), "");
     EXPECT_EQ(game.dialogs.pickers, (Names{"Where?", "Where?"}));
 }
 

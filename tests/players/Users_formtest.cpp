@@ -111,7 +111,8 @@ TEST_F(UsersForm, ClassAndSkinNamesAreShownWhole) {
         "BotPack.VoiceFemaleTwo,userini12345.bak\r\n";
     disk_.write("C:\\Tessaro\\users\\userini12345.bak", "");
     disk_.write(list, longest);
-    openUsers();
+    openUsers().resize(1400, 500);  // more than the test's screen has room for
+    serveEvents();
     for (int column = 0; column < 7; ++column) {
         const QModelIndex cell = listView().model()->index(0, column);
         const int needed = listView().fontMetrics().horizontalAdvance(cell.data().toString());
@@ -335,7 +336,7 @@ TEST_F(UsersForm, EverythingCanBeDoneByKeyboard) {
 TEST_F(UsersForm, AScreenReaderIsToldWhatTheBoxesAre) {
     Users& form = openUsers();
     EXPECT_EQ(nameForReaders(control<QLineEdit>(form, "Text1")), QStringLiteral("Current User"));
-    EXPECT_EQ(nameForReaders(listView()), QStringLiteral("Saved Users"));
+    EXPECT_EQ(nameForReaders(listView()), QStringLiteral("Players"));
     EXPECT_EQ(descriptionForReaders(listView()),
               QStringLiteral("This is a listing of your Player Archive"));
 }

@@ -41,6 +41,19 @@ TEST_F(BrowseTest, AGoodFolderIsShownReadAndTakenOverInMemory) {
     EXPECT_TRUE(view.steps.empty());
 }
 
+TEST_F(BrowseTest, ThePickerOpensInTheFolderShownAndTellsWhatIsWanted) {
+    openOnGame();
+    test.world.makeFolder("C:\\Wrong");
+    test.dialogs.pick("C:\\Wrong");
+    test.dialogs.answer(Answer::Ok);
+    test.dialogs.pick("");
+    test.dialogs.answer(Answer::Cancel);
+    prefs.browse();
+    const FolderPicker picker{"Select Your Unreal Tournament Folder.", "C:\\UT",
+                              "It holds Sounds, Maps, Textures, System and Cache."};
+    EXPECT_EQ(test.dialogs.folderPickers, (std::vector<FolderPicker>{picker, picker}));
+}
+
 TEST_F(BrowseTest, AGoodFolderMakesOkPossible) {
     openWithoutGame();
     EXPECT_FALSE(view.saving);

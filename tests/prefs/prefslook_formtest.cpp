@@ -7,7 +7,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "kit/controls/wholetext.h"
 #include "prefs/prefsformfixture.h"
+#include "support/forms/reader.h"
 #include "support/forms/texts.h"
 
 namespace tessaro::test {
@@ -84,6 +86,46 @@ TEST_F(PrefsLook, WithoutAGameTheDialogIsAsDesigned) {
     EXPECT_EQ(textOf("Text3"), "UTCredits.unr");
     for (const char* name : {"Option3", "Option4", "Option5", "Option6", "Option7", "Option8"})
         EXPECT_FALSE(control(name).isChecked()) << name;
+}
+
+TEST_F(PrefsLook, WithoutAGameTheDialogSaysWhyThereIsNoOk) {
+    openWithoutGame();
+    auto& hint = control<QLabel>("pathHint");
+    EXPECT_TRUE(hint.isVisible());
+    EXPECT_EQ(nameFor(hint),
+              "The game is not in this folder. Browse for the one that holds Sounds, Maps, "
+              "Textures, System and Cache.");
+    EXPECT_GE(hint.height(), hint.heightForWidth(hint.width()));
+    makeGame(world(), "C:\\Right");
+    dialogs().pick("C:\\Right");
+    click("Command1");
+    EXPECT_TRUE(control("Command6").isEnabled());
+    EXPECT_FALSE(hint.isVisible());
+}
+
+TEST_F(PrefsLook, OnAGameNothingIsSaidOfTheFolder) {
+    openOnGame();
+    EXPECT_FALSE(control<QLabel>("pathHint").isVisible());
+}
+
+TEST_F(PrefsLook, TheFolderLooksAsIfItCannotBeTyped) {
+    openOnGame();
+    EXPECT_FALSE(box("Text1").hasFrame());
+    EXPECT_EQ(box("Text1").cursor().shape(), Qt::ArrowCursor);
+    EXPECT_NE(box("Text1").palette().color(QPalette::Text),
+              box("Text3").palette().color(QPalette::Text));
+    EXPECT_TRUE(box("Text3").hasFrame());
+    EXPECT_EQ(box("Text3").cursor().shape(), Qt::IBeamCursor);
+}
+
+TEST_F(PrefsLook, ALongFolderIsToldWhole) {
+    const std::string folder = "C:\\" + std::string(90, 'g');
+    makeGame(world(), folder);
+    openOnGame();
+    EXPECT_EQ(cutText(box("Text1")), QString());
+    dialogs().pick(folder);
+    click("Command1");
+    EXPECT_EQ(cutText(box("Text1")), toQt(folder));
 }
 
 TEST_F(PrefsLook, ADialogThatStoppedShowsTheDefaultsOfTheProgram) {
@@ -198,7 +240,7 @@ TEST_F(PrefsLook, EverySkinGivesTheBoxesItsGround) {
         Prefs& prefs = open();
         for (const char* name : {"Text1", "Text2", "Text3"}) {
             EXPECT_EQ(box(name).palette().color(QPalette::Base), grounds[skin]) << name << skin;
-            EXPECT_EQ(box(name).palette().color(QPalette::Text), QColor(Qt::white)) << name;
+            EXPECT_GT(box(name).palette().color(QPalette::Text).lightness(), 210) << name;
         }
         forms_.unload(prefs);
     }

@@ -54,10 +54,11 @@ std::string ScriptedDialogs::input(const std::string& prompt, const std::string&
     return next(texts_, title + ": " + prompt, std::string());
 }
 
-std::string ScriptedDialogs::pickFolder(const std::string& prompt) {
-    pickers.push_back(prompt);
+std::string ScriptedDialogs::pickFolder(const FolderPicker& picker) {
+    pickers.push_back(picker.prompt);
+    folderPickers.push_back(picker);
     if (whileOpen) whileOpen();
-    return next(folders_, prompt, std::string());
+    return next(folders_, picker.prompt, std::string());
 }
 
 std::string ScriptedDialogs::pickFileToOpen(const FilePicker& picker) {

@@ -34,13 +34,14 @@ class ScriptedDialogs : public Dialogs {
     std::vector<Message> messages;
     std::vector<Input> inputs;
     std::vector<std::string> pickers;  ///< the prompts of folder pickers
+    std::vector<FolderPicker> folderPickers;
     std::vector<FilePicker> openPickers;
     std::vector<FilePicker> savePickers;
 
     Answer message(const Message& message) override;
     std::string input(const std::string& prompt, const std::string& title,
                       const std::string& preset) override;
-    std::string pickFolder(const std::string& prompt) override;
+    std::string pickFolder(const FolderPicker& picker) override;
     std::string pickFileToOpen(const FilePicker& picker) override;
     std::string pickFileToSave(const FilePicker& picker) override;
 

@@ -40,7 +40,7 @@ class Willing : public Dialogs {
                       const std::string& preset) override {
         return preset;
     }
-    std::string pickFolder(const std::string& /*prompt*/) override { return {}; }
+    std::string pickFolder(const FolderPicker& /*picker*/) override { return {}; }
     std::string pickFileToOpen(const FilePicker& /*picker*/) override { return {}; }
     std::string pickFileToSave(const FilePicker& /*picker*/) override { return {}; }
 };

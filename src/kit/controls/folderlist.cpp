@@ -68,6 +68,11 @@ void FolderList::setPath(std::string_view folder) {
     if (path_ != before) Q_EMIT changed();
 }
 
+std::string FolderList::picked() const {
+    const QTreeWidgetItem* item = currentItem();
+    return item != nullptr ? fromQt(item->data(0, pathRole).toString()) : path_;
+}
+
 void FolderList::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         openByUser(currentItem());

@@ -24,6 +24,8 @@ class FolderList : public QTreeWidget {
     /// Opens a folder, and reads it anew if it is open already. Raises 76 if there is no such
     /// folder, 70 if it may not be entered, 68 if there is no such drive.
     void setPath(std::string_view folder);
+    /// The folder that is highlighted, the open one at first.
+    std::string picked() const;
 
   Q_SIGNALS:
     /// Another folder was opened, by the user or by `setPath`.

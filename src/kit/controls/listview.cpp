@@ -4,8 +4,18 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QToolTip>
+#include <algorithm>
+
+#include "kit/controls/columnwidths.h"
+#include "kit/look/text.h"
 
 namespace tessaro {
+namespace {
+
+constexpr int measuredRows = 100;  // to measure all of a long list would take too long
+
+}  // namespace
 
 ListView::ListView(QWidget* parent) : QTreeView(parent) {
     setRootIsDecorated(false);
@@ -16,6 +26,11 @@ ListView::ListView(QWidget* parent) : QTreeView(parent) {
     setEditTriggers(NoEditTriggers);
     header()->setSectionsMovable(false);
     header()->setSectionsClickable(true);
+    header()->setStretchLastSection(false);
+    header()->setResizeContentsPrecision(measuredRows);
+    setTextElideMode(Qt::ElideMiddle);  // paths tell most at their ends
+    connect(header(), &QHeaderView::sectionResized, this,
+            [this] { movedByUser_ = movedByUser_ || !(sharing_ || following_); });
     connect(header(), &QHeaderView::sectionClicked, this,
             [this](int section) { Q_EMIT columnClicked(section + 1); });
 }
@@ -26,6 +41,7 @@ void ListView::show(ListItems& items) {
     delete model_;
     model_ = new ListModel(items, this);
     setModel(model_);
+    wanted_.assign(items.columns().size(), 0);
     items.changed = [view = QPointer(this)] {
         if (view) view->itemsChanged();
     };
@@ -51,6 +67,8 @@ void ListView::follow() {
     const QScopedValueRollback following(following_, true);
     model_->followTexts();
     highlightItems();
+    measureColumns();
+    shareWidth();
 }
 
 // Neighbours as one range: Qt compares each range with each other one.
@@ -109,14 +127,50 @@ void ListView::takeFromUser() {
             items_->setSelected(row + 1, highlighted[row]);
 }
 
-void setColumnWidths(ListView& list, std::initializer_list<int> letters) {
-    list.setTextElideMode(Qt::ElideMiddle);
-    list.header()->setStretchLastSection(false);
+int ListView::wantedWidth(int column) const {
+    return std::max({wanted_[static_cast<std::size_t>(column)], sizeHintForColumn(column),
+                     header()->sectionSizeHint(column)});
+}
+
+void ListView::measureColumns() {
+    for (int column = 0; column < header()->count(); ++column)
+        wanted_[static_cast<std::size_t>(column)] = wantedWidth(column);
+}
+
+void ListView::shareWidth() {
+    if (items_ == nullptr || movedByUser_) return;
+    const QScopedValueRollback sharing(sharing_, true);
+    std::vector<int> heads;
+    for (int column = 0; column < header()->count(); ++column)
+        heads.push_back(header()->sectionSizeHint(column));
     int column = 0;
-    for (const int count : letters) {
-        if (count == 0) list.header()->setSectionResizeMode(column, QHeaderView::Stretch);
-        list.header()->resizeSection(column++, count * list.fontMetrics().averageCharWidth());
-    }
+    for (const int width : sharedWidths(wanted_, heads, viewport()->width()))
+        header()->resizeSection(column++, width);
+}
+
+QSize ListView::viewportSizeHint() const {
+    int width = 0;
+    for (int column = 0; column < header()->count(); ++column) width += wantedWidth(column);
+    return {width, 0};
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    shareWidth();
+}
+
+bool ListView::viewportEvent(QEvent* event) {
+    return (event->type() == QEvent::ToolTip && tellCutText(static_cast<QHelpEvent&>(*event))) ||
+           QTreeView::viewportEvent(event);
+}
+
+bool ListView::tellCutText(const QHelpEvent& event) {
+    const QModelIndex cell = indexAt(event.pos());
+    if (!cell.isValid() || sizeHintForIndex(cell).width() <= columnWidth(cell.column()))
+        return false;
+    QToolTip::showText(event.globalPos(), toolTipText(cell.data().toString()), viewport(),
+                       visualRect(cell));
+    return true;
 }
 
 }  // namespace tessaro

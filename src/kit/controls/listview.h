@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QHelpEvent>
 #include <QPointer>
 #include <QTreeView>
-#include <initializer_list>
+#include <vector>
 
 #include "kit/controls/listmodel.h"
 
@@ -14,6 +15,9 @@ namespace tessaro {
 /// The number of rows follows at once, texts and highlight before the next event of the user, so
 /// that a batch of changes costs one pass. One row can be highlighted unless the selection mode is
 /// set to `ExtendedSelection`.
+///
+/// The columns share the list's width by what they hold, until the user moves one of them; a text
+/// that is cut nevertheless is told whole by a tooltip.
 class ListView : public QTreeView {
     Q_OBJECT
   public:
@@ -26,6 +30,9 @@ class ListView : public QTreeView {
 
     /// Row (from 1) under a point of the viewport, or 0.
     std::size_t rowAt(const QPoint& point) const;
+
+    /// As wide as all columns want to be.
+    QSize viewportSizeHint() const override;
 
   Q_SIGNALS:
     /// The user clicked a column's head; columns count from 1.
@@ -40,6 +47,8 @@ class ListView : public QTreeView {
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void mousePressEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
 
   private:
     void itemsChanged();
@@ -47,15 +56,18 @@ class ListView : public QTreeView {
     QItemSelection highlightOfItems() const;
     void highlightItems();
     void takeFromUser();
+    int wantedWidth(int column) const;
+    void measureColumns();
+    void shareWidth();
+    bool tellCutText(const QHelpEvent& event);
 
     ListItems* items_ = nullptr;
     ListModel* model_ = nullptr;
     bool following_ = false;  // the view changes because the items did
     bool posted_ = false;
+    std::vector<int> wanted_;  // the widest text that each column has had, and its head
+    bool sharing_ = false;
+    bool movedByUser_ = false;
 };
-
-/// Sets the widths of a list's columns, in letters of its font. A width of 0 takes what is left;
-/// its texts are cut in the middle, since paths tell most at their ends.
-void setColumnWidths(ListView& list, std::initializer_list<int> letters);
 
 }  // namespace tessaro

@@ -15,6 +15,17 @@ Forms::~Forms() {
     for (const auto& entry : entries_) entry->form->window().hide();
 }
 
+std::vector<std::type_index> Forms::known() const {
+    std::vector<std::type_index> types;
+    for (const auto& [type, maker] : makers_) types.push_back(type);
+    return types;
+}
+
+Form& Forms::get(std::type_index type) {
+    Form* form = find(type);
+    return form != nullptr ? *form : load(type);
+}
+
 Form* Forms::find(std::type_index type) const {
     for (const auto& entry : entries_)
         if (entry->type == type) return entry->form.get();

@@ -35,10 +35,14 @@ class Forms {
         makers_[typeid(T)] = [this, &parts...] { return std::make_unique<T>(*this, parts...); };
     }
 
+    /// The form classes that were made known.
+    std::vector<std::type_index> known() const;
+
     /// The instance; the first touch creates it and runs its Load. An error in Load destroys the
     /// half-made form and passes on. The class must be known.
     template <class T>
     T& get();
+    Form& get(std::type_index type);
     /// The instance if it is loaded, else null.
     template <class T>
     T* loaded();
@@ -122,8 +126,7 @@ T* Forms::loaded() {
 
 template <class T>
 T& Forms::get() {
-    if (T* form = loaded<T>()) return *form;
-    return static_cast<T&>(load(typeid(T)));
+    return static_cast<T&>(get(typeid(T)));
 }
 
 }  // namespace tessaro

@@ -3,7 +3,27 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "kit/look/reader.h"
+
 namespace tessaro {
+namespace {
+
+// Without a name, and not to be seen.
+class NothingToRead : public QAccessibleWidget {
+  public:
+    explicit NothingToRead(PictureLabel* picture) : QAccessibleWidget(picture) {}
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.invisible = true;
+        return state;
+    }
+};
+
+}  // namespace
+
+PictureLabel::PictureLabel(QWidget* parent) : QLabel(parent) {
+    readThrough<PictureLabel, NothingToRead>();
+}
 
 void PlateLabel::paintEvent(QPaintEvent*) {
     const QPixmap picture = pixmap(Qt::ReturnByValue);

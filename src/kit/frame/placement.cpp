@@ -1,5 +1,7 @@
 #include "kit/frame/placement.h"
 
+#include <QFontMetrics>
+#include <QScreen>
 #include <QVariant>
 #include <algorithm>
 
@@ -7,6 +9,7 @@ namespace tessaro {
 namespace {
 
 constexpr char shiftProperty[] = "shift";
+constexpr int besideCaption = 130;  // icon and buttons of a desktop's frame
 
 }  // namespace
 
@@ -24,6 +27,13 @@ QRect fittedInto(const QRect& screen, const QRect& window) {
     const int left = std::clamp(window.left(), screen.left(), screen.right() + 1 - size.width());
     const int top = std::clamp(window.top(), screen.top(), screen.bottom() + 1 - size.height());
     return {QPoint(left, top), size};
+}
+
+int captionWidth(const QWidget& window) {
+    QFont font = window.font();
+    font.setBold(true);  // as many desktops have it
+    const int caption = QFontMetrics(font).horizontalAdvance(window.windowTitle());
+    return std::min(caption + besideCaption, window.screen()->availableSize().width());
 }
 
 }  // namespace tessaro

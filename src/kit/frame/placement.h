@@ -14,4 +14,7 @@ void centreAcross(const QWidget& form, QWidget& control);
 /// `window` moved, and shrunk if it must be, so that it lies within `screen`.
 QRect fittedInto(const QRect& screen, const QRect& window);
 
+/// How wide a window has to be for a desktop to show its caption whole, if the screen is.
+int captionWidth(const QWidget& window);
+
 }  // namespace tessaro

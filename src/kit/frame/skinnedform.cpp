@@ -6,10 +6,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "kit/controls/wholetext.h"
 #include "kit/forms/handler.h"
 #include "kit/frame/drag.h"
 #include "kit/frame/picturelabels.h"
 #include "kit/frame/placement.h"
+#include "kit/look/reader.h"
 #include "kit/look/style.h"
 #include "kit/look/text.h"
 
@@ -56,7 +58,7 @@ bool takesTab(const QWidget& widget) {
 }  // namespace
 
 SkinnedForm::SkinnedForm(Forms& forms, const FrameOptions& options)
-    : FormWindow<QDialog>(forms), strut_(new QWidget(this)), content_(new QWidget(this)) {
+    : FormWindow<QDialog>(forms), strut_(new QWidget(this)), area_(new ContentArea(this)) {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setWindowTitle(toQt(options.caption));
     makeFrame(options);
@@ -85,7 +87,8 @@ void SkinnedForm::makeButtons(const FrameOptions& options) {
     CommandX->setToolTip(CommandX->accessibleName());
     if (!options.secondButton) return;
     if (options.secondButtonTask.empty()) {
-        CommandQ = makeButton(this, "CommandQ", "", "No function");
+        CommandQ = makeButton(this, "CommandQ", "_", "Minimise");
+        CommandQ->setEnabled(false);
     } else {
         CommandQ = makeButton(this, "CommandQ", "?", options.secondButtonTask);
         CommandQ->setToolTip(CommandQ->accessibleName());
@@ -102,7 +105,7 @@ void SkinnedForm::layOut() {
     auto* middle = new QHBoxLayout;
     middle->setSpacing(0);
     middle->addWidget(leftimg);
-    middle->addWidget(content_, 1);
+    middle->addWidget(area_, 1);
     middle->addWidget(rightimg);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(border, border, border, border);
@@ -113,20 +116,35 @@ void SkinnedForm::layOut() {
 }
 
 void SkinnedForm::completeContent() {
-    if (content_->layout() != nullptr)
-        content_->layout()->setContentsMargins(contentMargin, contentMargin, contentMargin,
-                                               contentMargin);
-    dressFields(*content_);
-    QWidget* last = lastInTabOrder(content_);
+    QWidget& content = *area_->widget();
+    if (content.layout() != nullptr)
+        content.layout()->setContentsMargins(contentMargin, contentMargin, contentMargin,
+                                             contentMargin);
+    dressFields(content);
+    nameForReaders(content);
+    showWholeTexts(content);
+    QWidget* last = lastInTabOrder(&content);
     if (CommandQ != nullptr) {
         setTabOrder(last, CommandQ);
         last = CommandQ;
     }
     setTabOrder(last, CommandX);
     fitFrame();
-    const QSize designed = content_->size().expandedTo(content_->sizeHint());
-    resize(designed.width() + 2 * (border + sideWidth),
-           designed.height() + 2 * border + strut_->minimumHeight() + bottomHeight);
+    designed_ = content.size();
+    refit(content);
+}
+
+void SkinnedForm::refit(QWidget& control) {
+    control.updateGeometry();
+    // Layouts that are not seen yet wait until they are before they tell those around them.
+    for (QWidget* around = control.parentWidget(); around != area_; around = around->parentWidget())
+        if (around->layout() != nullptr) around->layout()->activate();
+    resize(designed_.expandedTo(area_->sizeHint()) + surroundings());
+}
+
+// What the frame adds to the content.
+QSize SkinnedForm::surroundings() const {
+    return {2 * (border + sideWidth), 2 * border + strut_->minimumHeight() + bottomHeight};
 }
 
 void SkinnedForm::setTitle(const QString& title) {
@@ -150,6 +168,10 @@ void SkinnedForm::closePressed() {
 
 void SkinnedForm::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // The bar at the foot serves for the band as well, behind plate and buttons.
+    const QPixmap bar = bimg->pixmap(Qt::ReturnByValue);
+    if (!bar.isNull()) painter.drawPixmap(0, 0, width(), border + strut_->height(), bar);
     painter.setPen(palette().color(QPalette::Shadow));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
@@ -157,6 +179,10 @@ void SkinnedForm::paintEvent(QPaintEvent*) {
 void SkinnedForm::resizeEvent(QResizeEvent* event) {
     FormWindow<QDialog>::resizeEvent(event);
     placeTitle();
+    // One that grows with its content does not grow off the screen.
+    const QRect room = screen()->availableGeometry();
+    if (isVisible() && room.contains(QRect(pos(), event->oldSize())))
+        move(fittedInto(room, geometry()).topLeft());
 }
 
 void SkinnedForm::changeEvent(QEvent* event) {
@@ -173,10 +199,11 @@ void SkinnedForm::showEvent(QShowEvent* event) {
 
 // Left alone, Qt would give the focus to the close button, which was made first.
 void SkinnedForm::focusFirstControl() {
-    QWidget* widget = content_->nextInFocusChain();
-    while (widget != content_ && !(content_->isAncestorOf(widget) && takesTab(*widget)))
+    QWidget* content = area_->widget();
+    QWidget* widget = content->nextInFocusChain();
+    while (widget != content && !(content->isAncestorOf(widget) && takesTab(*widget)))
         widget = widget->nextInFocusChain();
-    if (widget != content_) widget->setFocus();
+    if (widget != content) widget->setFocus();
 }
 
 // The band and its buttons grow with the font.
@@ -190,6 +217,7 @@ void SkinnedForm::fitFrame() {
     const int wholeTitle = Title->fontMetrics().averageCharWidth() * lettersSeen;
     timg->setMinimumWidth(std::min(Title->sizeHint().width(), wholeTitle) + capsWidth());
     strut_->setMinimumWidth(timg->minimumWidth() + buttonsWidth);
+    area_->setSurroundings(surroundings());
     placeTitle();
 }
 

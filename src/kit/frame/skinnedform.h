@@ -6,6 +6,7 @@
 
 #include "kit/forms/form.h"
 #include "kit/forms/forms.h"
+#include "kit/frame/contentarea.h"
 
 namespace tessaro {
 
@@ -18,7 +19,8 @@ struct FrameOptions {
     std::string title;          ///< text of `Title`
     bool secondButton = false;  ///< `CommandQ`
     DragBy dragBy = DragBy::PlateAndTitle;
-    /// What `CommandQ` is there for, such as "Help"; it bears a "?" then, and is blank without.
+    /// What `CommandQ` is there for, such as "Help"; it bears a "?" then. Without, it is a minimise
+    /// button that cannot be pressed.
     std::string secondButtonTask = {};
 };
 
@@ -40,7 +42,7 @@ class SkinnedForm : public FormWindow<QDialog> {
     /// Fills the form. To be called once, before Load.
     template <class Ui>
     void setUpContent(Ui& ui) {
-        ui.setupUi(content_);
+        ui.setupUi(area_->widget());
         completeContent();
     }
 
@@ -61,6 +63,10 @@ class SkinnedForm : public FormWindow<QDialog> {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
+    /// Fits the form, before it is shown, to a control of its content that has come to want another
+    /// size than it had.
+    void refit(QWidget& control);
+
     /// What a click on `CommandX` does: closes the form.
     virtual void closePressed();
 
@@ -75,12 +81,14 @@ class SkinnedForm : public FormWindow<QDialog> {
     void layOut();
     void completeContent();
     void fitFrame();
+    QSize surroundings() const;
     int capsWidth() const;
     void placeTitle();
     void focusFirstControl();
 
     QWidget* strut_;  // keeps room for the plate, beside the buttons
-    QWidget* content_;
+    ContentArea* area_;
+    QSize designed_;  // of the content
 };
 
 }  // namespace tessaro

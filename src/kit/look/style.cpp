@@ -27,6 +27,14 @@ class ProgramStyle : public QProxyStyle {
         const QString folder = QStringLiteral(":/qt-project.org/styles/commonstyle/images/");
         return QIcon(programPicture(folder + QStringLiteral("toolbar-ext-h-16.png")));
     }
+
+    // Fusion lets a long caption touch the sides of its button.
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        if (type != CT_PushButton) return size;
+        return size.expandedTo({contents.width() + 2 * option->fontMetrics.height(), 0});
+    }
 };
 
 // A colour, the same in both states of a window, and the one of disabled controls.
@@ -46,10 +54,10 @@ void setColours(QPalette& palette, std::initializer_list<RoleColour> colours) {
 
 const QColor ground(239, 239, 239);
 const QColor letters(0, 0, 0);
-const QColor paleLetters(120, 120, 120);
+const QColor paleLetters(105, 105, 105);
 const QColor fieldGround(64, 64, 64);
 const QColor fieldLetters(255, 255, 255);
-const QColor paleFieldLetters(214, 214, 214);
+const QColor paleFieldLetters(220, 220, 220);
 
 // The sizes that window managers show. Each one more would have to be unpacked and sent to the
 // screen before the first window is there; larger ones are shown by launchers only.
@@ -82,6 +90,15 @@ void setFieldLetters(QWidget& field) {
     field.setPalette(palette);
 }
 
+// A box that only shows its text is no field to write in, and does not look like one.
+void flatten(QLineEdit& box) {
+    box.setFrame(false);
+    box.setCursor(Qt::ArrowCursor);
+    QPalette palette = box.palette();
+    setColours(palette, {{QPalette::Text, paleFieldLetters, paleFieldLetters}});
+    box.setPalette(palette);
+}
+
 }  // namespace
 
 QPalette programPalette() {
@@ -98,7 +115,7 @@ QPalette programPalette() {
                          {QPalette::BrightText, white, white},
                          {QPalette::ToolTipBase, QColor(255, 255, 220), QColor(255, 255, 220)},
                          {QPalette::ToolTipText, letters, letters},
-                         {QPalette::Highlight, QColor(48, 100, 170), QColor(145, 145, 145)},
+                         {QPalette::Highlight, QColor(48, 100, 170), QColor(110, 110, 110)},
                          {QPalette::HighlightedText, white, white},
                          {QPalette::Link, QColor(0, 0, 200), paleLetters},
                          {QPalette::LinkVisited, QColor(110, 0, 140), paleLetters},
@@ -136,6 +153,8 @@ void dressFields(QWidget& form) {
         if (!isField(*widget)) continue;
         setFieldGround(*widget, fieldGround);
         setFieldLetters(*widget);
+        auto* box = qobject_cast<QLineEdit*>(widget);
+        if (box != nullptr && box->isReadOnly()) flatten(*box);
     }
 }
 

@@ -15,7 +15,7 @@ QPalette programPalette();
 /// Gives a list or text box its ground, which has to be dark; its letters stay as they are.
 void setFieldGround(QWidget& field, const QColor& ground);
 /// Gives every list and text box inside `form` its design look, white letters on a dark ground,
-/// before a skin colours the ground.
+/// before a skin colours the ground. A box that cannot be written in is flat, its letters paler.
 void dressFields(QWidget& form);
 
 }  // namespace tessaro

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QTextDocument>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,11 @@ inline std::string fromQt(const QString& text) {
 inline std::string lineFromQt(const QString& text) {
     const std::string all = fromQt(text);
     return all.substr(0, all.find_first_of("\r\n"));
+}
+
+/// A text for a tooltip, which would take one with tags in it for markup.
+inline QString toolTipText(const QString& text) {
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
 inline QString hostPathToQt(const HostPath& path) {

@@ -4,17 +4,22 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QSpacerItem>
+#include <algorithm>
 
+#include "kit/frame/placement.h"
 #include "kit/look/text.h"
+#include "kit/outside/folderbox.h"
 #include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 namespace {
 
-// Wide enough for a title and for most names; Qt makes the box as wide as its prompt.
+// Wide enough for most names; Qt makes the box as wide as its prompt.
 constexpr int inputLetters = 60;
 
 // What a set of buttons is made of. Enter presses the first button, Esc the last resort.
@@ -66,6 +71,12 @@ Answer answerOf(int button) {
     }
 }
 
+// Qt's box takes the width of its lines, and fixes that when it is shown.
+void widenToCaption(QMessageBox& box) {
+    auto* lines = static_cast<QGridLayout*>(box.layout());
+    lines->addItem(new QSpacerItem(captionWidth(box), 0), lines->rowCount(), 0, 1, -1);
+}
+
 // The window that the question belongs to.
 QWidget* owner() {
     QWidget* modal = QApplication::activeModalWidget();
@@ -100,6 +111,7 @@ Answer QtDialogs::message(const Message& message) {
     box.setStandardButtons(buttons.all);
     box.setDefaultButton(buttons.first);
     box.setEscapeButton(buttons.escape);
+    widenToCaption(box);
     const int button = box.exec();
     end_.throwIfEnded();
     return answerOf(button);
@@ -113,19 +125,18 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
     box.setLabelText(toQt(prompt));
     box.setTextValue(toQt(preset));
     showPlainText(box);
-    box.resize(inputLetters * box.fontMetrics().averageCharWidth(), box.sizeHint().height());
+    const int width = inputLetters * box.fontMetrics().averageCharWidth();
+    box.resize(std::max(width, captionWidth(box)), box.sizeHint().height());
     const bool accepted = box.exec() == QDialog::Accepted;
     end_.throwIfEnded();
     return accepted ? lineFromQt(box.textValue()) : std::string();
 }
 
-std::string QtDialogs::pickFolder(const std::string& prompt) {
-    QFileDialog box(owner(), toQt(prompt));
-    box.setObjectName(QStringLiteral("folderPicker"));
-    box.setOption(QFileDialog::DontUseNativeDialog);
-    box.setFileMode(QFileDialog::Directory);
-    box.setOption(QFileDialog::ShowDirsOnly);
-    return picked(box);
+std::string QtDialogs::pickFolder(const FolderPicker& picker) {
+    FolderBox box(owner(), files_, picker);
+    const bool accepted = box.exec() == QDialog::Accepted;
+    end_.throwIfEnded();
+    return accepted ? box.folder() : std::string();
 }
 
 std::string QtDialogs::pickFileToOpen(const FilePicker& picker) {

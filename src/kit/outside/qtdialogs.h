@@ -1,7 +1,7 @@
 #pragma once
 
 #include "kit/forms/programend.h"
-#include "platform/files/paths.h"
+#include "platform/files/files.h"
 #include "platform/outside/dialogs.h"
 
 class QFileDialog;
@@ -13,12 +13,12 @@ namespace tessaro {
 class QtDialogs : public Dialogs {
   public:
     QtDialogs(const ProgramEnd& programEnd, Host& host, DriveMap drives)
-        : end_(programEnd), paths_(host, std::move(drives)) {}
+        : end_(programEnd), paths_(host, std::move(drives)), files_(host, paths_) {}
 
     Answer message(const Message& message) override;
     std::string input(const std::string& prompt, const std::string& title,
                       const std::string& preset) override;
-    std::string pickFolder(const std::string& prompt) override;
+    std::string pickFolder(const FolderPicker& picker) override;
     std::string pickFileToOpen(const FilePicker& picker) override;
     std::string pickFileToSave(const FilePicker& picker) override;
 
@@ -27,7 +27,9 @@ class QtDialogs : public Dialogs {
     std::string picked(QFileDialog& box);
 
     const ProgramEnd& end_;
-    Paths paths_;  // the pickers' folders and files, from and into the game's form, nothing else
+    // The pickers' folders and files, from and into the game's form, nothing else.
+    Paths paths_;
+    Files files_;
 };
 
 }  // namespace tessaro

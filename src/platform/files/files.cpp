@@ -18,8 +18,9 @@ constexpr std::string_view everything = "*.*";
 
 // Where the last part of a path begins.
 std::size_t lastPart(std::string_view path) {
-    const std::size_t separator = path.find_last_of("\\/");
-    if (separator != std::string_view::npos) return separator + 1;
+    const auto end = std::find_if(path.rbegin(), path.rend(),
+                                  [](char letter) { return letter == '\\' || letter == '/'; });
+    if (end != path.rend()) return static_cast<std::size_t>(path.rend() - end);
     const bool drive = path.size() > 1 && path[1] == ':';
     return drive ? 2 : 0;
 }

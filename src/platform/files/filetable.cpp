@@ -5,6 +5,7 @@
 
 #include "platform/files/wholefile.h"
 #include "platform/runtime/runtimeerror.h"
+#include "platform/text/utf8.h"
 
 namespace tessaro {
 
@@ -32,8 +33,8 @@ std::size_t findLineEnd(std::string_view text, std::size_t start) {
 void FileTable::openInput(int number, std::string_view file) {
     requireFree(number);
     OpenFile opening{Mode::Input, files_.paths().absolute(file), {}, 0, {}};
-    const std::string bytes = files_.read(opening.path);
-    opening.text = decodeText(bytes, detectEncoding(bytes));
+    std::string bytes = files_.read(opening.path);
+    opening.text = isAsciiText(bytes) ? std::move(bytes) : decodeText(bytes, detectEncoding(bytes));
     open_.emplace(number, std::move(opening));
 }
 
@@ -42,7 +43,11 @@ void FileTable::openOutput(int number, std::string_view file) {
     OpenFile opening{Mode::Output, files_.paths().absolute(file), {}, 0, {}};
     const HostPath path = files_.paths().toWrite(opening.path);
     requireReplaceable(files_.host(), path);
-    if (files_.host().status(path)) opening.encoding = detectEncoding(files_.read(opening.path));
+    if (files_.host().status(path)) {
+        const std::string bytes = files_.read(opening.path);
+        opening.encoding = detectEncoding(bytes);
+        opening.text.reserve(bytes.size());  // as a rule there will be about as much
+    }
     open_.emplace(number, std::move(opening));
 }
 
@@ -58,14 +63,14 @@ void FileTable::touch(int number, std::string_view file) {
     files_.touch(file);
 }
 
-std::string FileTable::lineInput(int number) {
+std::string_view FileTable::lineInput(int number) {
     OpenFile& file = opened(number, true);
     if (file.position == file.text.size()) throw RunTimeError(errors::InputPastEnd, file.path);
     const std::size_t start = file.position;
     const std::size_t end = findLineEnd(file.text, start);
     const bool pair = file.text.compare(end, lineEnd.size(), lineEnd) == 0;
     file.position = std::min(end + (pair ? 2 : 1), file.text.size());
-    return file.text.substr(start, end - start);
+    return std::string_view(file.text).substr(start, end - start);
 }
 
 bool FileTable::endOfFile(int number) {

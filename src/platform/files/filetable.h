@@ -26,8 +26,9 @@ class FileTable {
     /// The same, closed at once: what is left of it is a file that is there.
     void touch(int number, std::string_view file);
 
-    /// The next line without its end (CR LF, CR or LF). Raises 62 past the end.
-    std::string lineInput(int number);
+    /// The next line without its end (CR LF, CR or LF), to be looked at or copied before the file
+    /// is closed. Raises 62 past the end.
+    std::string_view lineInput(int number);
     bool endOfFile(int number);
     /// Adds a line, ended by CR LF.
     void printLine(int number, std::string_view text);

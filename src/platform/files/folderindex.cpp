@@ -80,12 +80,14 @@ const std::string* FolderIndex::Table::find(std::string_view name) const {
 }
 
 FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view name) {
-    Names* names = namesNow(folder);
+    bool justRead = false;
+    Names* names = namesNow(folder, justRead);
     if (!names) return {};
     const std::string* spelled = names->table.find(name);
-    // Within a tick of the folder's last change a miss proves nothing, so the folder is read again.
-    // That ends with the tick: at worst a run of misses reads the folder over and over for so long.
-    if (!spelled && !names->settled) {
+    // Within a tick of the folder's last change a miss among names that were read before proves
+    // nothing, so the folder is read again. That ends with the tick: at worst a run of misses reads
+    // the folder over and over for so long.
+    if (!spelled && !names->settled && !justRead) {
         read(folder, names->stamp, *names);
         spelled = names->table.find(name);
     }
@@ -95,8 +97,9 @@ FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view 
     return {true, std::string(name)};
 }
 
-// The index of a folder as it is now; null if there is no such folder.
-FolderIndex::Names* FolderIndex::namesNow(const HostPath& folder) {
+// The index of a folder as it is now, and whether all of its names were read only now; null if
+// there is no such folder.
+FolderIndex::Names* FolderIndex::namesNow(const HostPath& folder, bool& justRead) {
     const auto known = folders_.find(folder.native());
     if (known != folders_.end() && unchanged(known->second)) return &known->second;
     const auto status = host_.status(folder);
@@ -105,7 +108,10 @@ FolderIndex::Names* FolderIndex::namesNow(const HostPath& folder) {
         return nullptr;
     }
     Names& names = folders_[folder.native()];
-    if (names.stamp != status->stamp) read(folder, status->stamp, names);
+    if (names.stamp != status->stamp) {
+        read(folder, status->stamp, names);
+        justRead = !names.refusal;
+    }
     names.foundAt = std::chrono::steady_clock::now();
     return &names;
 }

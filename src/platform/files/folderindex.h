@@ -59,7 +59,7 @@ class FolderIndex {
         std::unique_ptr<HeldFolder> held;               // of a big folder
         std::chrono::steady_clock::time_point foundAt;  // by its path
     };
-    Names* namesNow(const HostPath& folder);
+    Names* namesNow(const HostPath& folder, bool& justRead);
     static bool unchanged(const Names& names);
     void read(const HostPath& folder, FolderStamp stamp, Names& names);
 

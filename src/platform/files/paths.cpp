@@ -46,7 +46,8 @@ struct Split {
 void append(std::string& full, std::string_view part) {
     if (part.empty() || part == ".") return;
     if (part != "..") {
-        full.append("\\").append(writtenName(part));
+        full += '\\';
+        appendWritten(full, part);
     } else if (full.size() > letterSize) {
         full.resize(full.rfind('\\'));
     }

@@ -1,6 +1,7 @@
 #include "platform/files/standins.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tessaro {
 
@@ -12,8 +13,17 @@ constexpr char leadIn = '~';
 constexpr std::size_t standInSize = 3;
 constexpr char startOfStandIns = '\xEF';
 
+constexpr std::array<bool, 256> tableOf(std::string_view letters) {
+    std::array<bool, 256> table{};
+    for (const char letter : letters) table[static_cast<unsigned char>(letter)] = true;
+    return table;
+}
+
+// Each letter of each name in a large folder is looked at.
+constexpr auto meanings = tableOf(lettersWithMeaning);
+
 bool hasMeaning(char letter) {
-    return lettersWithMeaning.find(letter) != std::string_view::npos;
+    return meanings[static_cast<unsigned char>(letter)];
 }
 
 // U+F000 and the letter's own code, in UTF-8.
@@ -41,8 +51,8 @@ void move(std::string_view& from, std::size_t size, std::string& to) {
 }  // namespace
 
 bool needsStandIn(std::string_view hostName) {
-    return hostName.find_first_of(lettersWithMeaning) != std::string_view::npos ||
-           hostName.find(startOfStandIns) != std::string_view::npos;
+    return std::any_of(hostName.begin(), hostName.end(),
+                       [](char letter) { return hasMeaning(letter) || letter == startOfStandIns; });
 }
 
 std::string gameName(std::string_view hostName) {
@@ -80,11 +90,12 @@ std::string hostName(std::string_view gameName) {
     return name;
 }
 
-std::string writtenName(std::string_view part) {
-    if (std::none_of(part.begin(), part.end(), hasMeaning)) return std::string(part);
-    std::string name;
-    for (const char letter : part) hasMeaning(letter) ? name += standIn(letter) : name += letter;
-    return name;
+void appendWritten(std::string& path, std::string_view part) {
+    if (std::none_of(part.begin(), part.end(), hasMeaning)) {
+        path += part;
+        return;
+    }
+    for (const char letter : part) hasMeaning(letter) ? path += standIn(letter) : path += letter;
 }
 
 }  // namespace tessaro

@@ -21,8 +21,8 @@ std::string gameName(std::string_view hostName);
 /// The way back.
 std::string hostName(std::string_view gameName);
 
-/// A part of a path as somebody wrote it: a letter that cannot divide or match there means the
-/// name that has it.
-std::string writtenName(std::string_view part);
+/// Appends a part of a path as somebody wrote it: a letter that cannot divide or match there means
+/// the name that has it.
+void appendWritten(std::string& path, std::string_view part);
 
 }  // namespace tessaro

@@ -17,6 +17,14 @@ struct Message {
     bool operator==(const Message&) const = default;
 };
 
+/// What a folder picker shows.
+struct FolderPicker {
+    std::string prompt;       ///< its caption
+    std::string folder = {};  ///< where it opens, in the game's form, or the nearest above that
+    std::string hint = {};    ///< what the folder has to hold; follows the prompt
+    bool operator==(const FolderPicker&) const = default;
+};
+
 /// What a file picker shows.
 struct FilePicker {
     std::string title;      ///< an empty one leaves the picker its own
@@ -36,7 +44,7 @@ class Dialogs {
     virtual std::string input(const std::string& prompt, const std::string& title,
                               const std::string& preset) = 0;
     /// A folder in the game's form, or an empty text if the user cancelled.
-    virtual std::string pickFolder(const std::string& prompt) = 0;
+    virtual std::string pickFolder(const FolderPicker& picker) = 0;
     /// A file in the game's form, or an empty text if the user cancelled. The file need not exist.
     virtual std::string pickFileToOpen(const FilePicker& picker) = 0;
     /// The same; a file that exists is picked without a further question.

@@ -41,6 +41,10 @@ const ListItem& ListItems::item(std::size_t index) const {
     return *rows_[index - 1];
 }
 
+const std::string& ListItems::text(std::size_t index, int column) const {
+    return textOf(item(index), column);
+}
+
 ListItem& ListItems::at(std::size_t index) {
     requireIndex(index, count());
     return *rows_[index - 1];
@@ -61,16 +65,23 @@ std::size_t ListItems::addRow(ListItem row) {
 std::size_t ListItems::insert(std::size_t index, ListItem&& row) {
     requireIndex(index, count() + 1);
     if (sorted_) index = placeOf(row);
-    rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(index - 1),
-                 std::make_unique<ListItem>(std::move(row)));
+    rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(index - 1), keep(std::move(row)));
     if (picked_ >= index) ++picked_;
     notify();
     return index;
 }
 
+ListItem* ListItems::keep(ListItem&& row) {
+    if (removed_.empty()) return &kept_.emplace_back(std::move(row));
+    ListItem* const room = removed_.back();
+    removed_.pop_back();
+    *room = std::move(row);
+    return room;
+}
+
 std::size_t ListItems::placeOf(const ListItem& row) const {
     const std::string key = lowerCase(textOf(row, sortKey_));
-    const auto goesBefore = [this](const std::string& added, const auto& other) {
+    const auto goesBefore = [this](const std::string& added, const ListItem* other) {
         const std::string text = lowerCase(textOf(*other, sortKey_));
         return sortOrder_ == 0 ? added < text : text < added;
     };
@@ -109,7 +120,8 @@ void ListItems::setText(std::size_t index, std::string text) {
 }
 
 void ListItems::remove(std::size_t index) {
-    requireIndex(index, count());
+    removed_.push_back(&at(index));
+    *removed_.back() = {};
     rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(index - 1));
     // The row that moves up takes the pick over, so that several can be removed one after another.
     if (picked_ > index) --picked_;
@@ -119,6 +131,8 @@ void ListItems::remove(std::size_t index) {
 
 void ListItems::clear() {
     rows_.clear();
+    removed_.clear();
+    kept_.clear();
     picked_ = 0;
     notify();
 }
@@ -134,7 +148,7 @@ std::size_t ListItems::selectedItem() const {
 
 void ListItems::pick(std::size_t index) {
     requireIndex(index, count());
-    for (const auto& row : rows_) row->selected = false;
+    for (ListItem* row : rows_) row->selected = false;
     rows_[index - 1]->selected = true;
     picked_ = index;
     notify();
@@ -146,13 +160,14 @@ void ListItems::sort(int key, int order) {
     sorted_ = true;
     std::vector<Keyed> keys;
     keys.reserve(count());
-    for (const auto& row : rows_) keys.push_back({lowerCase(textOf(*row, key)), keys.size() + 1});
+    for (const ListItem* row : rows_)
+        keys.push_back({lowerCase(textOf(*row, key)), keys.size() + 1});
     sortKeys(keys, order != 0);
     Rows sortedRows;
     sortedRows.reserve(rows_.size());
     std::size_t picked = 0;
     for (const Keyed& from : keys) {
-        sortedRows.push_back(std::move(rows_[from.index - 1]));
+        sortedRows.push_back(rows_[from.index - 1]);
         if (from.index == picked_) picked = sortedRows.size();
     }
     rows_ = std::move(sortedRows);

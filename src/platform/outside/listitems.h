@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,10 +28,14 @@ struct ListColumn {
 class ListItems {
   public:
     explicit ListItems(std::vector<ListColumn> columns);
+    ListItems(ListItems&&) = default;
+    ListItems& operator=(ListItems&&) = default;
 
     const std::vector<ListColumn>& columns() const { return columns_; }
     std::size_t count() const { return rows_.size(); }
     const ListItem& item(std::size_t index) const;
+    /// The text under a column counted from 0, empty where the row has none.
+    const std::string& text(std::size_t index, int column) const;
 
     /// Inserts a row so that it stands at `index`, which may be one past the last row; gives the
     /// index. In a sorted list the row goes where its text sorts, and that index is given.
@@ -74,16 +78,19 @@ class ListItems {
     std::function<void()> changed;
 
   private:
-    // Rows stay where they are in memory, so that one can be put between thousands at little cost.
-    using Rows = std::vector<std::unique_ptr<ListItem>>;
+    using Rows = std::vector<ListItem*>;
 
     ListItem& at(std::size_t index);
     std::size_t insert(std::size_t index, ListItem&& row);
+    ListItem* keep(ListItem&& row);
     std::size_t placeOf(const ListItem& row) const;
     void notify() const;
 
     std::vector<ListColumn> columns_;
+    // Rows stay where they are in memory, so that one can be put between thousands at little cost.
+    std::deque<ListItem> kept_;
     Rows rows_;
+    Rows removed_;  // room in `kept_` for others
     std::size_t picked_ = 0;
     int sortKey_ = 0;
     int sortOrder_ = 0;

@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-#include <vector>
+#include <memory>
 
 namespace tessaro {
 
@@ -32,9 +32,10 @@ void copyInKernel(Descriptor& from, Descriptor& to) {
 
 void copyContents(Descriptor& from, Descriptor& to) {
     copyInKernel(from, to);
-    std::vector<char> buffer(bufferSize);
-    while (const std::size_t size = from.read(buffer.data(), buffer.size()))
-        to.write({buffer.data(), size});
+    // As a rule there is nothing left to read, and no page of it is touched.
+    const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
+    while (const std::size_t size = from.read(buffer.get(), bufferSize))
+        to.write({buffer.get(), size});
 }
 
 }  // namespace tessaro

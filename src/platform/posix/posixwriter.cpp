@@ -65,10 +65,14 @@ class NewFile : public PosixWriter {
     }
 
   private:
+    // Straight where the system lets us (an older one lets the privileged only), else through the
+    // name that every open file has there.
     void giveName() {
-        const std::string file = "/proc/self/fd/" + std::to_string(file_.get());
-        const int done =
-            ::linkat(AT_FDCWD, file.c_str(), AT_FDCWD, systemName(name_), AT_SYMLINK_FOLLOW);
+        int done = ::linkat(file_.get(), "", AT_FDCWD, systemName(name_), AT_EMPTY_PATH);
+        if (done == -1 && errno != EEXIST) {
+            const std::string file = "/proc/self/fd/" + std::to_string(file_.get());
+            done = ::linkat(AT_FDCWD, file.c_str(), AT_FDCWD, name_.c_str(), AT_SYMLINK_FOLLOW);
+        }
         if (done == -1) raiseErrno(name_);
         unfinished_ = true;
     }

@@ -210,11 +210,11 @@ std::optional<std::string> encodePiece(std::string_view text, Encoding encoding)
 }
 
 std::optional<std::string> encodeText(std::string_view text, Encoding encoding) {
-    const auto piece = encodePiece(text, encoding);
-    if (!piece) return std::nullopt;
-    std::string bytes = std::string(markOf(encoding)) + *piece;
-    const bool readsBack = isAsciiText(bytes) || detectEncoding(bytes) == encoding;
-    return readsBack ? std::optional(std::move(bytes)) : std::nullopt;
+    auto bytes = encodePiece(text, encoding);
+    if (!bytes) return std::nullopt;
+    bytes->insert(0, markOf(encoding));
+    const bool readsBack = isAsciiText(*bytes) || detectEncoding(*bytes) == encoding;
+    return readsBack ? std::move(bytes) : std::nullopt;
 }
 
 std::string encodeOrWiden(std::string_view text, Encoding encoding) {

@@ -1,6 +1,7 @@
 #include "platform/text/lettercase.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 #include "platform/text/ascii.h"
@@ -81,10 +82,31 @@ constexpr Run runs[] = {
     {0xA7C6, 0xA7C6, 1, -35384}, {0xA7C7, 0xA7C9, 2, 1},      {0xA7D0, 0xA7D0, 1, 1},
     {0xA7D6, 0xA7D8, 2, 1},      {0xA7F5, 0xA7F5, 1, 1},      {0xFF21, 0xFF3A, 1, 32}};
 
-// The next character in lower case. Nearly all are ASCII, which needs no look into the table.
-char32_t nextLower(std::string_view name, std::size_t& position) {
-    if (!isAscii(name[position])) return lowerCase(nextCharacter(name, position));
-    return static_cast<unsigned char>(lowerAscii(name[position++]));
+constexpr std::size_t blockSize = sizeof(std::uint64_t);
+
+std::uint64_t blockAt(std::string_view text, std::size_t position) {
+    std::uint64_t block = 0;
+    std::memcpy(&block, text.data() + position, std::min(blockSize, text.size() - position));
+    return block;
+}
+
+// Eight letters of ASCII at once. The top bit of each byte tells what is to be changed there.
+std::uint64_t lowerBlock(std::uint64_t block) {
+    constexpr std::uint64_t each = 0x0101010101010101;
+    const std::uint64_t fromA = block + each * (0x80 - 'A');
+    const std::uint64_t beyondZ = block + each * (0x7F - 'Z');
+    return block | (fromA & ~beyondZ & each * 0x80) >> 2U;
+}
+
+// Of a text that is all ASCII, or in lower case; what `lowerBlock` makes of other letters is always
+// the same, whatever it is.
+std::uint32_t hashOf(std::string_view text) {
+    std::uint64_t hash = text.size();
+    for (std::size_t at = 0; at < text.size(); at += blockSize) {
+        hash = (hash ^ lowerBlock(blockAt(text, at))) * 0x9E3779B97F4A7C15;
+        hash ^= hash >> 32U;
+    }
+    return static_cast<std::uint32_t>(hash);
 }
 
 }  // namespace
@@ -127,10 +149,7 @@ bool sameName(std::string_view one, std::string_view other) {
 }
 
 std::uint32_t nameHash(std::string_view name) {
-    std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
-    for (std::size_t position = 0; position < name.size();)
-        hash = (hash ^ nextLower(name, position)) * 0x100000001B3;
-    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+    return isAsciiText(name) ? hashOf(name) : hashOf(lowerCase(name));
 }
 
 }  // namespace tessaro

@@ -56,6 +56,8 @@ std::size_t skipAscii(std::string_view text, std::size_t position) {
 
 // The byte where the `count`th character after `position` begins, or the text's end.
 std::size_t advance(std::string_view text, std::size_t position, std::size_t count) {
+    if (count < text.size() - position && isAsciiText(text.substr(position, count)))
+        return position + count;
     while (count > 0 && position < text.size()) {
         nextCharacter(text, position);
         --count;

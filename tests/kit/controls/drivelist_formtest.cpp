@@ -8,6 +8,7 @@
 
 #include "kit/look/style.h"
 #include "support/forms/formsfixture.h"
+#include "support/forms/reader.h"
 
 namespace tessaro {
 namespace {
@@ -56,6 +57,26 @@ TEST_F(DriveLists, TheGroundOfASkinIsReallyPainted) {
     list_.resize(150, 30);
     setFieldGround(list_, QColor(192, 0, 0));
     EXPECT_EQ(list_.grab().toImage().pixelColor(75, 15), QColor(192, 0, 0));
+}
+
+TEST_F(DriveLists, AScreenReaderIsToldTheNameAndTheChosenDrive) {
+    list_.setAccessibleName(QStringLiteral("Drive"));
+    EXPECT_EQ(test::nameFor(list_), "Drive c:");
+    list_.setDrive("z:");
+    EXPECT_EQ(test::nameFor(list_), "Drive z:");
+    EXPECT_EQ(test::reader(list_).text(QAccessible::Value), QStringLiteral("z:"));
+}
+
+TEST_F(DriveLists, AScreenReaderOpensTheListAndFindsTheDrivesInIt) {
+    QAccessibleInterface& heard = test::reader(list_);
+    EXPECT_EQ(heard.role(), QAccessible::ComboBox);
+    test::act(list_, QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(heard.state().expanded);
+    ASSERT_EQ(heard.childCount(), 1);
+    EXPECT_EQ(heard.indexOfChild(heard.child(0)), 0);
+    EXPECT_EQ(heard.child(0)->child(1)->text(QAccessible::Name), QStringLiteral("z:"));
+    test::act(list_, QAccessibleActionInterface::showMenuAction());
+    EXPECT_FALSE(heard.state().expanded);
 }
 
 TEST_F(DriveLists, AWheelTurnWithoutFocusChangesNothing) {

@@ -135,5 +135,12 @@ TEST_F(FolderLists, AFolderThatHasGoneLeavesTheListAsItIs) {
     EXPECT_EQ(list_.path(), "C:\\Games\\UT");
 }
 
+TEST_F(FolderLists, TheHighlightedFolderIsPickedTheOpenOneAtFirst) {
+    EXPECT_EQ(list_.picked(), "C:\\Games\\UT");
+    QTest::keyClick(&list_, Qt::Key_Down);
+    EXPECT_EQ(list_.picked(), "C:\\Games\\UT\\Cache");
+    EXPECT_EQ(list_.path(), "C:\\Games\\UT");
+}
+
 }  // namespace
 }  // namespace tessaro

@@ -4,8 +4,10 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include "support/forms/formsfixture.h"
 
@@ -265,6 +267,76 @@ TEST(ListViewLife, TheViewMayOutliveItsItemsAsInAForm) {
         rows.add("row");
     }
     EXPECT_NE(view.items(), nullptr);
+}
+
+// A list with long names and longer addresses.
+class ListColumns : public ListViews {
+  protected:
+    ListColumns() {
+        rows_.setText(2, std::string(30, 'n'));
+        rows_.setSubItem(2, 1, std::string(60, 'a'));
+        serveEvents();
+    }
+    int width(int column) const { return view_.columnWidth(column); }
+    int needed(char letter, int count) const {
+        return view_.fontMetrics().horizontalAdvance(QString(count, QLatin1Char(letter)));
+    }
+    void resize(int width) {
+        view_.resize(width, 300);
+        serveEvents();
+    }
+    QString told(int row, int column) {
+        const QRect cell = view_.visualRect(view_.model()->index(row, column));
+        QHelpEvent help(QEvent::ToolTip, cell.center(),
+                        view_.viewport()->mapToGlobal(cell.center()));
+        QApplication::sendEvent(view_.viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    }
+};
+
+TEST_F(ListColumns, ShowNamesWholeAndCutTheRest) {
+    EXPECT_GT(width(0), needed('n', 30));
+    EXPECT_LT(width(1), needed('a', 60));
+    EXPECT_EQ(width(0) + width(1), view_.viewport()->width());
+}
+
+TEST_F(ListColumns, ShowEverythingWholeWhereThereIsRoom) {
+    resize(1000);
+    EXPECT_GT(width(0), needed('n', 30));
+    EXPECT_GT(width(1), needed('a', 60));
+    EXPECT_EQ(width(0) + width(1), view_.viewport()->width());
+}
+
+TEST_F(ListColumns, LeaveEveryHeadWholeWhereTheListIsNarrow) {
+    resize(60);
+    EXPECT_GE(width(0), view_.header()->sectionSizeHint(0));
+    EXPECT_GE(width(1), view_.header()->sectionSizeHint(1));
+}
+
+TEST_F(ListColumns, KeepTheirWidthsWhenLongTextsGo) {
+    const int before = width(0);
+    rows_.setText(2, "short");
+    serveEvents();
+    EXPECT_EQ(width(0), before);
+}
+
+TEST_F(ListColumns, StayWhereTheUserMovedThem) {
+    view_.header()->resizeSection(0, 77);
+    rows_.setText(1, std::string(40, 'n'));
+    resize(700);
+    EXPECT_EQ(width(0), 77);
+}
+
+TEST_F(ListColumns, AListThatFitsItsColumnsWantsTheWidthOfAll) {
+    view_.setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    EXPECT_GT(view_.sizeHint().width(), needed('n', 30) + needed('a', 60));
+    rows_.setText(3, std::string(50, 'n'));
+    EXPECT_GT(view_.sizeHint().width(), needed('n', 50) + needed('a', 60));
+}
+
+TEST_F(ListColumns, ATextThatIsCutIsToldWhole) {
+    EXPECT_EQ(told(1, 0), QString());
+    EXPECT_EQ(told(1, 1), QString(60, QLatin1Char('a')));
 }
 
 }  // namespace

@@ -162,11 +162,13 @@ TEST_F(SkinnedForms, ASecondButtonWithATaskBearsAQuestionMarkAndTellsTheTask) {
     EXPECT_EQ(form.CommandQ->toolTip(), QStringLiteral("Help on the chart"));
 }
 
-TEST_F(SkinnedForms, ASecondButtonWithoutATaskIsBlankAndSaysSo) {
+TEST_F(SkinnedForms, ASecondButtonWithoutATaskIsAMinimiseButtonThatCannotBePressed) {
     const Tool& form = shown();
-    EXPECT_EQ(form.CommandQ->text(), QString());
-    EXPECT_EQ(form.CommandQ->accessibleName(), QStringLiteral("No function"));
-    EXPECT_EQ(form.CommandQ->toolTip(), QString());
+    EXPECT_EQ(form.CommandQ->text(), QStringLiteral("_"));
+    EXPECT_EQ(form.CommandQ->accessibleName(), QStringLiteral("Minimise"));
+    EXPECT_FALSE(form.CommandQ->isEnabled());
+    QTest::mouseClick(form.CommandQ, Qt::LeftButton);
+    EXPECT_FALSE(form.isMinimized());
 }
 
 TEST_F(SkinnedForms, EnterInATextBoxDoesNotClose) {
@@ -179,12 +181,18 @@ TEST_F(SkinnedForms, TheFrameButtonsComeLastInTabOrder) {
     Tool& form = shown();
     form.ui.Text1->setFocus();
     std::vector<QWidget*> order;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 3; ++i) {
         order.push_back(form.focusWidget());
         QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order,
-              (std::vector<QWidget*>{form.ui.Text1, form.ui.Text2, form.CommandQ, form.CommandX}));
+    EXPECT_EQ(order, (std::vector<QWidget*>{form.ui.Text1, form.ui.Text2, form.CommandX}));
+}
+
+TEST_F(SkinnedForms, ASecondButtonWithATaskComesBeforeTheCloseButton) {
+    HelpfulTool& form = shown<HelpfulTool>();
+    form.CommandQ->setFocus();
+    QTest::keyClick(form.CommandQ, Qt::Key_Tab);
+    EXPECT_EQ(form.focusWidget(), form.CommandX);
 }
 
 TEST_F(SkinnedForms, TextBoxesHaveWhiteLettersOnADarkGroundBeforeAnySkin) {

@@ -7,6 +7,10 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "support/forms/contrast.h"
 
 namespace tessaro {
 namespace {
@@ -36,11 +40,31 @@ TEST(ProgramStyle, EveryTextStandsOutFromItsGround) {
         {QPalette::HighlightedText, QPalette::Highlight}};
     for (const auto& [text, ground] : pairs) {
         for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-            const int contrast =
-                palette.color(group, text).lightness() - palette.color(group, ground).lightness();
-            EXPECT_GT(std::abs(contrast), 75) << text << " on " << ground << " in " << group;
+            EXPECT_GE(test::contrast(palette.color(group, text), palette.color(group, ground)),
+                      test::readable)
+                << text << " on " << ground << " in " << group;
         }
     }
+}
+
+TEST(ProgramStyle, LeavesACaptionRoomOnItsButton) {
+    const QPushButton button(QStringLiteral("C&lear My UT Cache and Temp Files Now!"));
+    const QFontMetrics letters = button.fontMetrics();
+    const int caption = letters.size(Qt::TextShowMnemonic, button.text()).width();
+    EXPECT_GE(button.sizeHint().width(), caption + 2 * letters.height());
+}
+
+TEST(DressedFields, ABoxThatCannotBeWrittenInIsFlat) {
+    QWidget form;
+    auto* written = new QLineEdit(&form);
+    auto* shown = new QLineEdit(&form);
+    shown->setReadOnly(true);
+    dressFields(form);
+    EXPECT_TRUE(written->hasFrame());
+    EXPECT_FALSE(shown->hasFrame());
+    EXPECT_EQ(shown->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(written->palette().color(QPalette::Text), QColor(Qt::white));
+    EXPECT_LT(shown->palette().color(QPalette::Text).lightness(), 230);
 }
 
 TEST(FieldGround, IsReallyPaintedOnADropDownList) {

@@ -10,8 +10,10 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
+#include "kit/outside/folderbox.h"
 #include "support/forms/formsfixture.h"
 
 namespace tessaro {
@@ -72,6 +74,15 @@ TEST_F(RealDialogs, EscIsTheLastResort) {
     EXPECT_EQ(afterKey(Buttons::YesNoCancel, Qt::Key_Escape), Answer::Cancel);
 }
 
+TEST_F(RealDialogs, AMessageIsAsWideAsItsTitle) {
+    const std::string title = "Sorry, the destination path does not Exist. Check it, please.";
+    answered({"No.", title, Buttons::Ok, Icon::Stop}, [](QMessageBox& box) {
+        EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance(box.windowTitle()) + 60);
+        EXPECT_LE(box.width(), box.screen()->availableSize().width());
+        box.accept();
+    });
+}
+
 TEST_F(RealDialogs, TheEndOfTheProgramUnwindsTheCallerOfABox) {
     EXPECT_THROW(answered({"text", "title"}, [this](QMessageBox&) { end_.end(); }), ProgramEnded);
 }
@@ -120,29 +131,34 @@ TEST_F(InputBox, GivesAnEmptyTextWhenCancelled) {
     EXPECT_EQ(typed([](QInputDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); }), "");
 }
 
-class FolderPicker : public RealDialogs {
+class FolderPickers : public RealDialogs {
   protected:
-    std::string picked(std::function<void(QFileDialog&)> act) {
-        const auto box = [] { return visibleWindow<QFileDialog>("folderPicker"); };
+    std::string picked(std::function<void(FolderBox&)> act) {
+        const auto box = [] { return visibleWindow<FolderBox>("folderPicker"); };
         const WhenItComes answer([&] { return box() != nullptr; }, [&] { act(*box()); });
-        return dialogs_.pickFolder("Select Your Unreal Tournament Folder.");
+        return dialogs_.pickFolder({"Select Your Unreal Tournament Folder.", "C:\\Games"});
     }
 };
 
-TEST_F(FolderPicker, GivesTheFolderInTheGamesForm) {
+TEST_F(FolderPickers, GiveTheFolderInTheGamesForm) {
     world_.world.makeFolder("C:\\Games\\UT 99");
-    const std::string folder = world_.world.at("C:\\Games\\UT 99").string();
-    const std::string answer = picked([&](QFileDialog& box) {
+    const std::string answer = picked([&](FolderBox& box) {
         EXPECT_EQ(box.windowTitle(), QStringLiteral("Select Your Unreal Tournament Folder."));
-        box.setDirectory(QString::fromStdString(folder));
-        box.selectFile(QString::fromStdString(folder));
-        QMetaObject::invokeMethod(&box, "accept");
+        auto& path = *box.findChild<QLineEdit*>(QStringLiteral("path"));
+        EXPECT_EQ(path.text(), QStringLiteral("C:\\Games"));
+        path.setText(QStringLiteral("C:\\games\\ut 99"));
+        QTest::keyClick(&path, Qt::Key_Return);
     });
     EXPECT_EQ(answer, "C:\\Games\\UT 99");
 }
 
-TEST_F(FolderPicker, GivesAnEmptyTextWhenCancelled) {
-    EXPECT_EQ(picked([](QFileDialog& box) { box.reject(); }), "");
+TEST_F(FolderPickers, GiveAnEmptyTextWhenCancelled) {
+    world_.world.makeFolder("C:\\Games");
+    EXPECT_EQ(picked([](FolderBox& box) { box.reject(); }), "");
+}
+
+TEST_F(FolderPickers, TheEndOfTheProgramUnwindsTheirCaller) {
+    EXPECT_THROW(picked([this](FolderBox&) { end_.end(); }), ProgramEnded);
 }
 
 class FilePickers : public RealDialogs {

@@ -18,7 +18,7 @@ using testing::IsEmpty;
 std::vector<std::string> linesOf(TestWorld& world, std::string_view file) {
     std::vector<std::string> lines;
     world.table.openInput(1, file);
-    while (!world.table.endOfFile(1)) lines.push_back(world.table.lineInput(1));
+    while (!world.table.endOfFile(1)) lines.emplace_back(world.table.lineInput(1));
     world.table.close(1);
     return lines;
 }

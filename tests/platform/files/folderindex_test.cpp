@@ -65,6 +65,21 @@ TEST(FolderIndex, AMissIsLookedUpAgainWhileTheStampMayHideAChange) {
     EXPECT_EQ(index.find(world.at("C:\\Cache"), "A").name, "a");
 }
 
+TEST(FolderIndex, TheFirstMissInAFolderThatHasJustChangedReadsItOnce) {
+    TestWorld world;
+    world.makeFolder("C:\\Cache");
+    StampedHost host(world.host);
+    host.stamp = now() | 1;
+    FolderIndex index(host);
+    EXPECT_FALSE(index.find(world.at("C:\\Cache"), "a").name);
+    EXPECT_EQ(host.count(Call::List), 1);
+    host.stamp = now() | 1;
+    world.write("C:\\Cache\\a", "");
+    EXPECT_FALSE(index.find(world.at("C:\\Cache"), "b").name);
+    EXPECT_EQ(host.count(Call::List), 2);
+    EXPECT_EQ(index.find(world.at("C:\\Cache"), "A").name, "a");
+}
+
 TEST(FolderIndex, WholeSecondsAreTakenForACoarseClock) {
     constexpr std::int64_t second = 1'000'000'000;
     TestWorld world;

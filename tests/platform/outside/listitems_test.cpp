@@ -218,6 +218,15 @@ TEST(ListItems, ASortKeyUsesTheOrderSetBefore) {
     EXPECT_THAT(texts(items), ElementsAre("b", "a"));
 }
 
+TEST(ListItems, TextsAreToldByTheirColumn) {
+    ListItems items = filled({"other", "name"});
+    items.setSubItem(2, 1, "10.0.0.1");
+    EXPECT_EQ(items.text(2, 0), "name");
+    EXPECT_EQ(items.text(2, 1), "10.0.0.1");
+    EXPECT_EQ(items.text(2, 2), "");
+    EXPECT_EQ(errorOf([&] { items.text(3, 0); }), 35600);
+}
+
 TEST(ListItems, EveryChangeIsAnnounced) {
     ListItems items = filled({"a"});
     int changes = 0;
