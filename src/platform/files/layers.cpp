@@ -199,9 +199,10 @@ LayeredFolder* Layers::in(const HostPath& game, std::string_view name) {
 }
 
 Layers::Game& Layers::gameIn(const HostPath& folder) {
-    const auto [known, unknown] = games_.try_emplace(folder);
-    if (unknown) attempt([&] { known->second.native = nativeGameIn(host_, folder); });
-    return known->second;
+    const auto met = games_.try_emplace(folder);
+    Game& game = met.first->second;
+    if (met.second) attempt([&] { game.native = nativeGameIn(host_, folder); });
+    return game;
 }
 
 }  // namespace tessaro
