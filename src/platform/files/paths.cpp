@@ -146,7 +146,7 @@ HostPath Paths::toWrite(std::string_view path) {
 bool Paths::canBeOvertaken(std::string_view path) {
     const std::string full = absolute(path);
     const LayeredFolder* layers = layersRound(full);
-    return layers && !layers->find(Split(full).name).first;
+    return layers != nullptr && !layers->find(Split(full).name).first;
 }
 
 std::optional<HostPath> Paths::templateOf(std::string_view path) {
