@@ -28,14 +28,15 @@ struct Extracted {
     std::size_t missed;
 };
 
-/// One run from the cache folder into `C:\Out`.
-inline Extracted extract(World& world) {
+/// One run from a cache folder into `C:\Out`.
+inline Extracted extract(World& world, const std::string& from = cacheFolder) {
     FreshProgram fresh(world);
+    fresh.program.gamePaths.UTCachePath = from;
     NoObserver observer;
     CacheEntry entry;
     Extraction extraction(fresh.program, observer, entry);
     extraction.entry.mypath = "C:\\Out\\";
-    extraction.run(cacheFolder);
+    extraction.run(from);
     return {extraction.ListView1.count(), extraction.List2.size()};
 }
 

@@ -8,6 +8,8 @@ namespace tessaro::bench {
 /// An extraction whose cached files are all missing, in a folder full of others, against reading
 /// the lines of the index and asking the system for each file.
 bool extractMissingFiles(const Place& place);
+/// The same of a native game, whose cache is two folders: the one full of others, and a small one.
+bool extractMissingNativeFiles(const Place& place);
 /// An extraction of present files, against the standard library's copy of the same files.
 bool extractPresentFiles(const Place& place);
 /// A key of a large profile file, read and written, against GLib's key file parser.

@@ -27,8 +27,8 @@ int main() {
         using namespace tessaro::bench;
         bool kept = true;
         for (const auto figure :
-             {extractMissingFiles, extractPresentFiles, profileFile, importFavorites, serverList,
-              playerList, editor, screenshots, compressBatch}) {
+             {extractMissingFiles, extractMissingNativeFiles, extractPresentFiles, profileFile,
+              importFavorites, serverList, playerList, editor, screenshots, compressBatch}) {
             for (const Place& place : {disk(), memory()}) kept = figure(place) && kept;
         }
         for (const auto figure : {firstPaint, openings}) kept = figure() && kept;

@@ -17,7 +17,7 @@ bool confirms(Program& program, const char* text, const char* title) {
 // would follow it out of the folder.
 void dropLink(Program& program, const std::string& file) {
     Host& host = program.files.host();
-    const HostPath path = program.paths.toHost(file);
+    const HostPath path = program.paths.toWrite(file);
     if (host.target(path) != path) host.removeFile(path);
 }
 

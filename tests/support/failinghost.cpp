@@ -95,6 +95,10 @@ bool FailingHost::writable(const HostPath& path) {
     return !(protected_ && contains(path, *protected_)) && real_.writable(path);
 }
 
+bool FailingHost::takesFiles(const HostPath& folder) {
+    return !(protected_ && contains(folder, *protected_)) && real_.takesFiles(folder);
+}
+
 bool FailingHost::settles(const HostPath& file, std::chrono::milliseconds patience) {
     pass(Call::Settle, file);
     return real_.settles(file, patience);
@@ -149,6 +153,11 @@ void FailingHost::removeFile(const HostPath& file) {
 void FailingHost::makeFolder(const HostPath& folder) {
     pass(Call::MakeFolder, folder);
     real_.makeFolder(folder);
+}
+
+void FailingHost::makePrivateFolder(const HostPath& folder) {
+    pass(Call::MakeFolder, folder);
+    real_.makePrivateFolder(folder);
 }
 
 HostPath FailingHost::keepingFolder() {

@@ -37,7 +37,7 @@ class FailingHost : public Host {
     /// So many bytes can still be written; what goes beyond raises 61. Bytes that are written over
     /// those of an old file cost nothing.
     void setDiskSpace(std::size_t bytes) { space_ = bytes; }
-    /// Files whose path contains `part` cannot be written.
+    /// Files and folders whose path contains `part` cannot be written.
     void protect(std::string part) { protected_ = std::move(part); }
     /// Files and folders whose name contains `part` are hidden, as some systems have it.
     void hide(std::string part) { hidden_ = std::move(part); }
@@ -55,6 +55,7 @@ class FailingHost : public Host {
     std::unique_ptr<FolderLock> lock(const HostPath& folder,
                                      std::chrono::milliseconds patience) override;
     bool writable(const HostPath& path) override;
+    bool takesFiles(const HostPath& folder) override;
     bool settles(const HostPath& file, std::chrono::milliseconds patience) override;
     std::string read(const HostPath& file) override;
     WatchedBytes readWatched(const HostPath& file) override;
@@ -66,6 +67,7 @@ class FailingHost : public Host {
     void flushFolder(const HostPath& folder) override;
     void removeFile(const HostPath& file) override;
     void makeFolder(const HostPath& folder) override;
+    void makePrivateFolder(const HostPath& folder) override;
     HostPath keepingFolder() override;
     HostPath target(const HostPath& path) override;
     HostPath currentFolder() override;

@@ -40,19 +40,17 @@ std::string percent(std::size_t part, std::size_t whole) {
 
 }  // namespace
 
-Commandlets::Commandlets(fs::path systemFolder, Manner manner)
-    : systemFolder_(std::move(systemFolder)),
-      manner_(manner),
-      console_(manner == Manner::Utf16 ? Encoding::Utf16LittleEndian : Encoding::Utf8) {}
+Commandlets::Commandlets(Folders folders, Manner manner, Console console)
+    : folders_(std::move(folders)), manner_(manner), console_(console) {}
 
 void Commandlets::compress(const fs::path& file) const {
     begin("IpDrv.CompressCommandlet");
-    const fs::path source = systemFolder_ / file;
+    const fs::path source = found(file);
     const std::string name = source.filename().string();
     const std::string bytes = read(source);
     console_.print("Compressing " + name + " (" + std::to_string(bytes.size()) + " bytes)");
     const std::string packed = compressed({name, bytes});
-    const fs::path target = outputName(fs::path(source) += ".uz", manner_);
+    const fs::path target = outputName((folders_.written / file) += ".uz", manner_);
     write(target, packed);
     console_.print("Compressed " + name + " -> " + target.filename().string() + " (" +
                    percent(packed.size(), bytes.size()) + ")");
@@ -60,13 +58,21 @@ void Commandlets::compress(const fs::path& file) const {
 
 void Commandlets::decompress(const fs::path& file) const {
     begin("IpDrv.DecompressCommandlet");
-    const fs::path source = systemFolder_ / file;
+    const fs::path source = found(file);
     const Package package = decompressed(read(source));
     // A stored name that leads to another folder is not followed.
-    const fs::path target = outputName(systemFolder_ / hostPath(package.name).filename(), manner_);
+    const fs::path target =
+        outputName(folders_.written / hostPath(package.name).filename(), manner_);
     write(target, package.bytes);
     console_.print("Decompressed " + source.filename().string() + " -> " +
                    target.filename().string());
+}
+
+fs::path Commandlets::found(const fs::path& file) const {
+    for (const fs::path& folder : folders_.read) {
+        if (fs::exists(folder / file)) return folder / file;
+    }
+    return folders_.written / file;
 }
 
 void Commandlets::begin(const char* commandlet) const {
@@ -80,6 +86,7 @@ void Commandlets::begin(const char* commandlet) const {
 void Commandlets::write(const fs::path& file, const std::string& bytes) const {
     if (manner_ == Manner::Silent) return;
     requireNoPipe(file);
+    fs::create_directories(file.parent_path());
     std::ofstream stream(file, std::ios::binary | std::ios::trunc);
     if (!stream) throw std::runtime_error("cannot write " + file.string());
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -3,18 +3,35 @@
 #include <string>
 
 #include "platform/files/host.h"
+#include "platform/files/nativegame.h"
 
 namespace tessaro::ucc {
+namespace {
 
-void installPrograms(const std::filesystem::path& game, const std::filesystem::path& programs) {
-    namespace fs = std::filesystem;
-    // Copies, since links would make them take the folder of the originals for the game's.
-    const fs::path system = game / "System";
-    const std::string ending = executablePath().extension().string();  // of this system's programs
-    fs::copy_file(programs / ("tessaro-ucc" + ending), system / "UCC.exe",
-                  fs::copy_options::overwrite_existing);
-    fs::copy_file(programs / ("tessaro-ut" + ending), system / "UnrealTournament.exe",
-                  fs::copy_options::overwrite_existing);
+namespace fs = std::filesystem;
+
+// A copy, since a link would make it take the folder of the original for the game's.
+void install(const fs::path& program, const fs::path& file) {
+    fs::create_directories(file.parent_path());
+    fs::copy_file(program, file, fs::copy_options::overwrite_existing);
+}
+
+// With the ending of this system's programs.
+fs::path built(const fs::path& programs, const std::string& name) {
+    return programs / (name + executablePath().extension().string());
+}
+
+}  // namespace
+
+void installPrograms(const fs::path& game, const fs::path& programs) {
+    install(built(programs, "tessaro-ucc"), game / "System" / "UCC.exe");
+    install(built(programs, "tessaro-ut"), game / "System" / "UnrealTournament.exe");
+}
+
+void installNativePrograms(const fs::path& game, const fs::path& programs) {
+    const auto [folder, suffix] = nativeNames();
+    install(built(programs, "tessaro-ucc"), game / folder / ("ucc-bin" + suffix));
+    install(built(programs, "tessaro-ut"), game / folder / ("ut-bin" + suffix));
 }
 
 }  // namespace tessaro::ucc

@@ -9,4 +9,8 @@ namespace tessaro::ucc {
 /// tessaro-ut. Raises std::filesystem::filesystem_error.
 void installPrograms(const std::filesystem::path& game, const std::filesystem::path& programs);
 
+/// The same as programs for Linux, in their folder and under their names for this machine.
+void installNativePrograms(const std::filesystem::path& game,
+                           const std::filesystem::path& programs);
+
 }  // namespace tessaro::ucc

@@ -6,8 +6,6 @@
 #include <algorithm>
 
 #include "kit/look/text.h"
-#include "platform/files/hostpath.h"
-#include "platform/files/standins.h"
 #include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
@@ -29,17 +27,6 @@ std::vector<std::string> partsOf(const std::string& path) {
         start = end + 1;
     }
     return parts;
-}
-
-// The path with its names spelled as they are on the disk. Its drive stays, also where another
-// drive reaches the same place.
-std::string asOnDisk(const std::string& path, HostPath place) {
-    std::vector<std::string> parts = partsOf(path);
-    for (std::size_t i = parts.size() - 1; i > 0; --i, place = place.parent_path())
-        parts[i] = gameName(place.filename().string());
-    std::string spelled = parts.front();
-    for (std::size_t i = 1; i < parts.size(); ++i) spelled = joined(spelled, parts[i]);
-    return spelled;
 }
 
 QTreeWidgetItem* makeItem(const std::string& name, const std::string& path, const QIcon& icon) {
@@ -76,7 +63,7 @@ void FolderList::setPath(std::string_view folder) {
     // Asked from inside: a folder that may not be entered raises here, before anything changes.
     const auto status = files_->host().status(place / ".");
     if (!status || !status->folder) throw RunTimeError(errors::PathNotFound, full);
-    const std::string before = std::exchange(path_, asOnDisk(full, place));
+    const std::string before = std::exchange(path_, files_->paths().spelled(full));
     fill();
     if (path_ != before) Q_EMIT changed();
 }
@@ -131,14 +118,7 @@ QTreeWidgetItem* FolderList::addChain() {
 
 std::vector<std::string> FolderList::foldersInside() const {
     std::vector<std::string> folders;
-    attempt([&] {
-        const HostPath place = files_->paths().toHost(path_);
-        for (const std::string& name : files_->list(joined(path_, "*.*"), attributes::Directory)) {
-            if (name == "." || name == "..") continue;
-            const auto status = files_->host().status(inFolder(place, hostName(name)));
-            if (status && status->folder) folders.push_back(name);
-        }
-    });
+    attempt([&] { folders = files_->foldersIn(path_); });
     return folders;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/files/files.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "platform/files/hostpath.h"
@@ -87,22 +88,49 @@ std::vector<std::string> Files::list(std::string_view pattern, int attributes) {
     // A root has no name of its own to list.
     if (paths_.absolute(pattern).ends_with('\\'))
         return listFolder(pattern, everything, attributes);
-    return {gameName(path->filename().string())};
+    // Some names stand for a file of another one.
+    std::string found = gameName(path->filename().string());
+    const std::string_view asked = pattern.substr(name);
+    return {sameName(found, asked) ? std::move(found) : std::string(asked)};
+}
+
+// The host folders behind a folder that are there.
+std::vector<HostPath> Files::placesOf(std::string_view folder) {
+    auto places = paths_.folders(folder);
+    std::erase_if(places, [this](const HostPath& place) { return !isFolder(host_, place); });
+    return places;
+}
+
+// The names in host folders that are wanted, in the order of the host. Those of an upper folder
+// hide what differs in case only in the ones below.
+template <class Wanted>
+std::vector<std::string> Files::namesIn(const std::vector<HostPath>& places, const Wanted& wanted) {
+    std::vector<std::string> names;
+    std::set<std::string> above;
+    for (const HostPath& place : places) {
+        std::vector<std::string> here;
+        for (const ListedName& each : host_.listNames(place)) {
+            if (isUnderWay(each.name)) continue;
+            std::string name = gameName(each.name);
+            if (places.size() > 1) here.push_back(lowerCase(name));
+            if (!above.empty() && above.contains(here.back())) continue;
+            if (wanted(place, each, name)) names.push_back(std::move(name));
+        }
+        above.insert(here.begin(), here.end());
+    }
+    return names;
 }
 
 std::vector<std::string> Files::listFolder(std::string_view folder, std::string_view pattern,
                                            int attributes) {
-    const auto path = paths_.find(folder);
-    if (!path || !isFolder(host_, *path)) return {};
-    std::vector<std::string> names;
-    for (const ListedName& each : host_.listNames(*path)) {
-        if (isUnderWay(each.name)) continue;
-        std::string name = gameName(each.name);
-        if (!matchesWildcard(pattern, name)) continue;
-        // Plain files are always wanted; to ask for each would take most of a listing's time.
-        if (each.plainFile || isWanted(host_, inFolder(*path, each.name), attributes))
-            names.push_back(std::move(name));
-    }
+    const auto places = placesOf(folder);
+    if (places.empty()) return {};
+    auto names = namesIn(
+        places, [&](const HostPath& place, const ListedName& each, const std::string& name) {
+            // Plain files are always wanted; to ask for each would take most of a listing's time.
+            return matchesWildcard(pattern, name) &&
+                   (each.plainFile || isWanted(host_, inFolder(place, each.name), attributes));
+        });
     sortNames(names);
     const bool root = paths_.absolute(folder).ends_with('\\');
     const auto dots = dotsFor(pattern, root, attributes);
@@ -116,20 +144,28 @@ std::string Files::firstMatch(std::string_view pattern, int attributes) {
 }
 
 bool Files::canList(std::string_view folder) {
-    const auto path = paths_.find(folder);
-    return path && attempt([&] { host_.list(*path); });
+    const auto places = placesOf(folder);
+    return !places.empty() && attempt([&] {
+        for (const HostPath& place : places) host_.list(place);
+    });
 }
 
 std::vector<std::string> Files::filesIn(std::string_view folder) {
-    const auto path = paths_.find(folder);
-    if (!path || !isFolder(host_, *path)) return {};
-    std::vector<std::string> names;
-    for (const ListedName& each : host_.listNames(*path)) {
-        constexpr int anyFile = attributes::Hidden | attributes::System;
-        if (isUnderWay(each.name)) continue;
-        if (each.plainFile || isWanted(host_, inFolder(*path, each.name), anyFile))
-            names.push_back(gameName(each.name));
-    }
+    constexpr int anyFile = attributes::Hidden | attributes::System;
+    return namesIn(placesOf(folder), [this](const HostPath& place, const ListedName& each,
+                                            const std::string&) {
+        return each.plainFile || isWanted(host_, inFolder(place, each.name), anyFile);
+    });
+}
+
+std::vector<std::string> Files::foldersIn(std::string_view folder) {
+    const auto isShown = [this](const HostPath& place, const ListedName& each, const std::string&) {
+        return !each.plainFile &&
+               isWanted(host_, inFolder(place, each.name), attributes::Directory) &&
+               isFolder(host_, inFolder(place, each.name));
+    };
+    auto names = namesIn(placesOf(folder), isShown);
+    sortNames(names);
     return names;
 }
 
@@ -142,7 +178,7 @@ std::uintmax_t Files::fileLength(std::string_view file) {
 
 void Files::copyFile(std::string_view from, std::string_view to) {
     const HostPath source = paths_.toHost(from);
-    const HostPath target = paths_.toHost(to);
+    const HostPath target = paths_.toWrite(to);
     const auto given = host_.status(source);
     if (!given) throw RunTimeError(errors::FileNotFound, source.string());
     if (given->folder) throw RunTimeError(errors::PathFileAccess, source.string());
@@ -160,23 +196,38 @@ std::vector<std::string> Files::namesToDelete(std::string_view pattern) {
     return named ? list(pattern, attributes::Normal) : std::vector<std::string>();
 }
 
+// Where the names of a pattern's folder lie that are to be deleted; nothing for one that has to
+// stay. Found before the first is gone, since each that goes drops what is known of the folder.
+std::vector<std::optional<HostPath>> Files::toDelete(std::string_view pattern,
+                                                     const std::vector<std::string>& names) {
+    const std::string_view folder = pattern.substr(0, lastPart(pattern));
+    const HostPath place = paths_.toHost(folder);
+    LayeredFolder* layers = paths_.layers(folder);
+    std::vector<std::optional<HostPath>> found;
+    found.reserve(names.size());
+    for (const std::string& name : names)
+        found.push_back(layers ? layers->toDelete(name) : inFolder(place, hostName(name)));
+    for (const HostPath& each : layers ? layers->folders() : std::vector{place})
+        paths_.forget(each);
+    return found;
+}
+
 void Files::deleteFiles(std::string_view pattern) {
     const auto names = namesToDelete(pattern);
     if (names.empty()) throw RunTimeError(errors::FileNotFound, std::string(pattern));
-    const HostPath folder = paths_.toHost(pattern.substr(0, lastPart(pattern)));
-    paths_.forget(folder);
-    for (const std::string& name : names) deleteFile(host_, inFolder(folder, hostName(name)));
+    for (const auto& file : toDelete(pattern, names)) {
+        if (!file) throw RunTimeError(errors::PathFileAccess, std::string(pattern));
+        deleteFile(host_, *file);
+    }
 }
 
 void Files::deleteWhatGoes(std::string_view pattern) {
-    const HostPath folder = paths_.toHost(pattern.substr(0, lastPart(pattern)));
-    for (const std::string& name : namesToDelete(pattern))
-        attempt([&] { deleteFile(host_, inFolder(folder, hostName(name))); });
-    paths_.forget(folder);
+    for (const auto& file : toDelete(pattern, namesToDelete(pattern)))
+        if (file) attempt([&] { deleteFile(host_, *file); });
 }
 
 void Files::makeFolder(std::string_view folder) {
-    const HostPath path = paths_.toHost(folder);
+    const HostPath path = paths_.toWrite(folder);
     if (host_.status(path)) throw RunTimeError(errors::PathFileAccess, path.string());
     if (!isFolder(host_, path.parent_path()))
         throw RunTimeError(errors::PathNotFound, path.string());
@@ -200,25 +251,35 @@ std::shared_ptr<const std::string> Files::content(std::string_view file) {
     const HostPath path = paths_.toHost(full);
     memory_.read(full, existing(host_, path));
     // Only now that it is watched, the way to the file cannot change unseen.
-    if (paths_.find(full) != path) memory_.doubt();
+    if (paths_.find(full) != path || paths_.canBeOvertaken(full)) memory_.doubt();
     return memory_.bytes();
 }
 
 void Files::replace(std::string_view file, std::string_view bytes) {
-    const HostPath path = paths_.toHost(file);
+    const HostPath path = paths_.toWrite(file);
     replaceFile(host_, path, bytes);
     paths_.forget(path.parent_path());
 }
 
+// Where a file is to be changed that may have to be made first.
+HostPath Files::toChange(std::string_view file) {
+    HostPath path = paths_.toWrite(file);
+    if (const auto madeOf = paths_.templateOf(file)) {
+        replaceFile(host_, path, host_.read(*madeOf));
+        paths_.forget(path.parent_path());
+    }
+    return path;
+}
+
 void Files::change(std::string_view file, const FileChange& change) {
-    const HostPath path = paths_.toHost(file);
+    const HostPath path = toChange(file);
     changeFile(host_, path, change);
     paths_.forget(path.parent_path());
 }
 
 void Files::touch(std::string_view file) {
     if (remembers(file) && memory_.writable()) return;
-    const HostPath path = paths_.toHost(file);
+    const HostPath path = toChange(file);
     requireReplaceable(host_, path);
     host_.touch(path);
     paths_.forget(path.parent_path());

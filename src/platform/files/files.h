@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,8 @@ class Files {
     /// Names of the files in a folder, hidden ones too, in no order; none if it is not there. For
     /// many questions about one folder: to ask for each name costs a look at the disk each.
     std::vector<std::string> filesIn(std::string_view folder);
+    /// Names of the folders in a folder, but for hidden ones, in the order of their names.
+    std::vector<std::string> foldersIn(std::string_view folder);
 
     /// Bytes in a file; a folder measures 0. Raises 53.
     std::uintmax_t fileLength(std::string_view file);
@@ -87,7 +90,13 @@ class Files {
 
   private:
     bool remembers(std::string_view file);
+    HostPath toChange(std::string_view file);
     std::vector<std::string> namesToDelete(std::string_view pattern);
+    std::vector<std::optional<HostPath>> toDelete(std::string_view pattern,
+                                                  const std::vector<std::string>& names);
+    template <class Wanted>
+    std::vector<std::string> namesIn(const std::vector<HostPath>& places, const Wanted& wanted);
+    std::vector<HostPath> placesOf(std::string_view folder);
     std::vector<std::string> listFolder(std::string_view folder, std::string_view pattern,
                                         int attributes);
 

@@ -41,7 +41,7 @@ void FileTable::openInput(int number, std::string_view file) {
 void FileTable::openOutput(int number, std::string_view file) {
     requireFree(number);
     OpenFile opening{Mode::Output, files_.paths().absolute(file), {}, 0, {}};
-    const HostPath path = files_.paths().toHost(opening.path);
+    const HostPath path = files_.paths().toWrite(opening.path);
     requireReplaceable(files_.host(), path);
     if (files_.host().status(path)) {
         const std::string bytes = files_.read(opening.path);

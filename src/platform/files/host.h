@@ -115,6 +115,8 @@ class Host {
                                              std::chrono::milliseconds patience) = 0;
     /// Whether this is a file (no folder, no device) that its flags and the system let us write.
     virtual bool writable(const HostPath& path) = 0;
+    /// Whether the system lets us make files in a folder.
+    virtual bool takesFiles(const HostPath& folder) = 0;
     virtual std::string read(const HostPath& file) = 0;
     /// The same with a watch, where the system tells of everything that could change the file; the
     /// next one may end it.
@@ -137,6 +139,8 @@ class Host {
     virtual void flushFolder(const HostPath& folder) = 0;
     virtual void removeFile(const HostPath& file) = 0;
     virtual void makeFolder(const HostPath& folder) = 0;
+    /// One that nobody but its owner may look into.
+    virtual void makePrivateFolder(const HostPath& folder) = 0;
     /// A folder for what must not be lost: everybody may write there, and it outlives a restart.
     virtual HostPath keepingFolder() = 0;
     /// The file behind a link (any number of steps), or the path itself.

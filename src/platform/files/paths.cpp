@@ -70,11 +70,6 @@ bool isLonger(const HostPath& root, const HostPath& other) {
     return root.native().size() > other.native().size();
 }
 
-std::optional<HostPath> spelledIn(const HostPath& folder, const FolderIndex::Finding& finding) {
-    if (!finding.name) return std::nullopt;
-    return inFolder(folder, hostName(*finding.name));
-}
-
 }  // namespace
 
 Paths::Paths(Host& host, DriveMap drives) : host_(host), roots_(std::move(drives)), index_(host) {
@@ -97,22 +92,86 @@ HostPath Paths::toHostFull(std::string_view full) {
     const auto [folder, name] = Split(full);
     // The search that has just failed knows the folder, if there is one.
     const auto known = found_.find(folder);
-    return inFolder(known != found_.end() ? known->second : toHostFull(folder), hostName(name));
+    if (known == found_.end()) return inFolder(toHostFull(folder), hostName(name));
+    const auto& [path, layers] = known->second;
+    return layers ? layers->placeForNew(name) : inFolder(path, hostName(name));
 }
 
 std::optional<HostPath> Paths::findFull(std::string_view full) {
     if (isRoot(full)) return rootOf(full.front());
     const auto [folder, name] = Split(full);
     if (const auto known = found_.find(folder); known != found_.end()) {
-        const auto finding = index_.find(known->second, name);
-        if (finding.folder) return spelledIn(known->second, finding);
+        auto finding = findIn(known->second, name);
+        if (finding.folder) return std::move(finding.path);
         found_.erase(known);  // deleted, or spelled otherwise by now
     }
-    const auto above = findFull(folder);
+    auto above = findFull(folder);
     if (!above) return std::nullopt;
-    const auto finding = index_.find(*above, name);
-    if (finding.folder) found_.emplace(folder, *above);
-    return spelledIn(*above, finding);
+    Folder place{*std::move(above), layersOf(folder)};
+    auto finding = findIn(place, name);
+    if (finding.folder) found_.emplace(folder, std::move(place));
+    return std::move(finding.path);
+}
+
+LayeredFolder::Finding Paths::findIn(const Folder& folder, std::string_view name) {
+    if (folder.layers) return folder.layers->find(name);
+    const auto finding = index_.find(folder.path, name);
+    if (const LayeredFolder* layers = finding.folder ? layers_.in(folder.path, name) : nullptr)
+        return {true, layers->place()};
+    if (!finding.name) return {finding.folder, std::nullopt};
+    return {true, inFolder(folder.path, hostName(*finding.name))};
+}
+
+// Of a folder that is known to be there, as the folders above it then are.
+LayeredFolder* Paths::layersOf(std::string_view full) {
+    if (isRoot(full)) return nullptr;
+    const auto [above, name] = Split(full);
+    const auto game = found_.find(above);
+    return game == found_.end() ? nullptr : layers_.in(game->second.path, name);
+}
+
+LayeredFolder* Paths::layersRound(std::string_view full) {
+    if (isRoot(full)) return nullptr;
+    const auto folder = found_.find(Split(full).folder);
+    return folder == found_.end() ? nullptr : folder->second.layers;
+}
+
+HostPath Paths::toWrite(std::string_view path) {
+    const std::string full = absolute(path);
+    HostPath place = toHostFull(full);
+    const LayeredFolder* layers = layersRound(full);
+    return layers ? layers->toWrite(Split(full).name) : place;
+}
+
+bool Paths::canBeOvertaken(std::string_view path) {
+    const std::string full = absolute(path);
+    const LayeredFolder* layers = layersRound(full);
+    return layers != nullptr && !layers->find(Split(full).name).first;
+}
+
+std::optional<HostPath> Paths::templateOf(std::string_view path) {
+    const std::string full = absolute(path);
+    const LayeredFolder* layers = layersRound(full);
+    return layers ? layers->templateOf(Split(full).name) : std::nullopt;
+}
+
+std::vector<HostPath> Paths::folders(std::string_view folder) {
+    const std::string full = absolute(folder);
+    auto place = findFull(full);
+    if (!place) return {};
+    const LayeredFolder* layers = layersOf(full);
+    return layers ? layers->folders() : std::vector{*std::move(place)};
+}
+
+std::string Paths::spelled(std::string_view full) {
+    if (isRoot(full)) return std::string(full);
+    const auto [folder, name] = Split(full);
+    const auto place = findFull(full);
+    const LayeredFolder* layers = layersOf(full);
+    std::string path = spelled(folder);
+    if (!path.ends_with('\\')) path += '\\';
+    if (!place) return path.append(name);
+    return path + gameName(layers ? layers->name() : place->filename().string());
 }
 
 std::string Paths::toGame(const HostPath& path) const {

@@ -162,6 +162,12 @@ class PosixHost : public Host {
                ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
     }
 
+    bool takesFiles(const HostPath& folder) override {
+        struct stat info = {};
+        return ::stat(systemName(folder), &info) == 0 && S_ISDIR(info.st_mode) &&
+               ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+    }
+
     bool settles(const HostPath& file, std::chrono::milliseconds patience) override {
         bool settled = true;
         attempt([&] {
@@ -214,6 +220,10 @@ class PosixHost : public Host {
 
     void makeFolder(const HostPath& folder) override {
         raiseIfFailed(::mkdir(systemName(folder), S_IRWXU | S_IRWXG | S_IRWXO), folder);
+    }
+
+    void makePrivateFolder(const HostPath& folder) override {
+        raiseIfFailed(::mkdir(systemName(folder), S_IRWXU), folder);
     }
 
     HostPath keepingFolder() override {

@@ -1,3 +1,5 @@
+#include "platform/posix/wineprefix.h"
+
 #include <cstdlib>
 
 #include "platform/files/drives.h"
@@ -9,6 +11,9 @@ namespace tessaro {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::string_view driveFolder = "drive_c";
+constexpr std::string_view linksFolder = "dosdevices";
 
 HostPath winePrefix() {
     const char* prefix = std::getenv("WINEPREFIX");
@@ -34,14 +39,24 @@ DriveMap hostDrives() {
     DriveMap drives;
     const HostPath prefix = winePrefix();
     std::error_code error;
-    fs::directory_iterator links(prefix / "dosdevices", error);
+    fs::directory_iterator links(prefix / linksFolder, error);
     for (; !error && links != fs::directory_iterator(); links.increment(error)) {
         const char letter = letterOf(links->path().filename().native());
         if (letter) addDrive(drives, letter, links->path());
     }
-    addDrive(drives, 'C', prefix / "drive_c");
+    addDrive(drives, 'C', prefix / driveFolder);
     addDrive(drives, 'Z', "/");
     return drives;
+}
+
+bool liesInWinePrefix(const HostPath& folder) {
+    std::error_code error;
+    HostPath above = fs::weakly_canonical(folder, error);
+    for (; above.has_relative_path(); above = above.parent_path()) {
+        const bool drive = above.filename() == driveFolder;
+        if (drive && fs::is_directory(above.parent_path() / linksFolder, error)) return true;
+    }
+    return false;
 }
 
 }  // namespace tessaro

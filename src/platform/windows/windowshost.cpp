@@ -159,6 +159,14 @@ class WindowsHost : public Host {
         return opened || ::GetLastError() == ERROR_SHARING_VIOLATION;
     }
 
+    bool takesFiles(const HostPath& folder) override {
+        const auto known = status(folder);
+        if (!known || !known->folder) return false;
+        const Handle opened(::CreateFileW(systemName(folder).c_str(), FILE_ADD_FILE, sharedWithAll,
+                                          nullptr, OPEN_EXISTING, anyName, nullptr));
+        return static_cast<bool>(opened);
+    }
+
     bool settles(const HostPath& file, std::chrono::milliseconds patience) override {
         return becomes(patience, [&] { return !isBeingWritten(file); });
     }
@@ -199,6 +207,9 @@ class WindowsHost : public Host {
     void makeFolder(const HostPath& folder) override {
         raiseIfFailed(::CreateDirectoryW(systemName(folder).c_str(), nullptr), folder);
     }
+
+    // Who may look into it, it has from the one that it lies in: a user's own are closed to others.
+    void makePrivateFolder(const HostPath& folder) override { makeFolder(folder); }
 
     // Each user's own here, and emptied by its user only.
     HostPath keepingFolder() override { return std::filesystem::temp_directory_path(); }

@@ -48,6 +48,32 @@ TEST(PosixHost, StatusTellsFilesFromFolders) {
     EXPECT_FALSE(real.host->status(file / "below"));
 }
 
+TEST(PosixHost, APrivateFolderIsItsOwnersOnly) {
+    const Real real;
+    const HostPath folder = real.folder.path() / "private";
+    real.host->makePrivateFolder(folder);
+    EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
+    EXPECT_NE(errorOf([&] { real.host->makePrivateFolder(folder); }), 0);
+}
+
+TEST(PosixHost, FilesCanBeMadeInAFolderThatIsOurs) {
+    const Real real;
+    EXPECT_TRUE(real.host->takesFiles(real.folder.path()));
+    EXPECT_FALSE(real.host->takesFiles(real.folder.path() / "none"));
+    EXPECT_FALSE(real.host->takesFiles(real.write("file")));
+}
+
+TEST(PosixHost, FilesCannotBeMadeInAFolderThatAnOrdinaryUserMayOnlyLookInto) {
+    const Real real;
+    const HostPath folder = real.folder.path() / "theirs";
+    fs::create_directory(folder);
+    fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                                fs::perms::others_exec);
+    test::ForkedChild child(
+        [&] { return test::becomeOrdinaryUser() && !real.host->takesFiles(folder) ? 0 : 1; });
+    EXPECT_EQ(child.exitCode(), 0);
+}
+
 TEST(PosixHost, ANameThatBeginsWithADotIsAnOrdinaryOne) {
     const Real real;
     EXPECT_FALSE(real.host->status(real.write(".dotted"))->hidden);
