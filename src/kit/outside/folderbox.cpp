@@ -71,14 +71,14 @@ void FolderBox::layOut() {
 
 // Where a folder is not there, the nearest one above it that is.
 void FolderBox::openNear(std::string folder) {
-    while (!open(folder)) {
+    while (!goTo(folder)) {
         const std::size_t end = folder.rfind('\\');
         if (end == std::string::npos) return;  // not even its drive
         folder.resize(end);
     }
 }
 
-bool FolderBox::open(const std::string& folder) {
+bool FolderBox::goTo(const std::string& folder) {
     if (folder.empty() || !attempt([&] { list_->setPath(folder); })) return false;
     const QSignalBlocker quiet(drives_);
     attempt([&] { drives_->setDrive(list_->path()); });
@@ -92,14 +92,14 @@ void FolderBox::showPicked() {
 }
 
 void FolderBox::changeDrive() {
-    if (open(drives_->drive() + '\\')) return;
-    open(list_->path());
+    if (goTo(drives_->drive() + '\\')) return;
+    goTo(list_->path());
     complain("This drive cannot be read.");
 }
 
 void FolderBox::makeFolder() {
     const std::string folder = typed();
-    if (attempt([&] { files_.makeFolder(folder); }) && open(folder)) return;
+    if (attempt([&] { files_.makeFolder(folder); }) && goTo(folder)) return;
     complain("There is such a folder, or it cannot be made.");
 }
 
@@ -111,7 +111,7 @@ std::string FolderBox::typed() const {
 }
 
 void FolderBox::accept() {
-    if (open(typed())) return QDialog::accept();
+    if (goTo(typed())) return QDialog::accept();
     complain("There is no such folder. To make it, press New Folder.");
 }
 

@@ -26,7 +26,7 @@ class FolderBox : public QDialog {
   private:
     void layOut();
     void openNear(std::string folder);
-    bool open(const std::string& folder);
+    bool goTo(const std::string& folder);
     void showPicked();
     void changeDrive();
     void makeFolder();
