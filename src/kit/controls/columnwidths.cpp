@@ -38,7 +38,10 @@ std::vector<int> sharedWidths(const std::vector<int>& wanted, const std::vector<
     }
     std::vector<int> widths = least;
     int left = std::max(total - sum(least), 0);
-    const int names = std::min(wanted.front() - least.front(), left);
+    // One long name must not hide what the other columns tell.
+    const int rest = total - (sum(wanted) - wanted.front());
+    const int most = std::min(wanted.front(), std::max(total * 3 / 5, rest));
+    const int names = std::clamp(most - least.front(), 0, left);
     widths.front() += names;
     left -= names;
     std::vector<int> lacking(wanted.size());

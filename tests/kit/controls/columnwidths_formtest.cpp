@@ -24,8 +24,13 @@ TEST(SharedWidths, NamesComeFirstAndTheOthersShareTheRest) {
     EXPECT_EQ(sharedWidths({200, 300, 100}, {50, 50, 50}, 450), (Widths{200, 175, 75}));
 }
 
+TEST(SharedWidths, OfLongNamesTheOthersAreLeftTwoFifths) {
+    EXPECT_EQ(sharedWidths({900, 300, 100}, {50, 60, 70}, 450), (Widths{270, 104, 76}));
+    EXPECT_EQ(sharedWidths({900, 60, 30}, {50, 40, 20}, 500), (Widths{410, 60, 30}));
+}
+
 TEST(SharedWidths, NamesLeaveTheOthersTheirHeads) {
-    EXPECT_EQ(sharedWidths({900, 300, 100}, {50, 60, 70}, 450), (Widths{320, 60, 70}));
+    EXPECT_EQ(sharedWidths({900, 300, 100}, {50, 110, 90}, 450), (Widths{250, 110, 90}));
 }
 
 TEST(SharedWidths, NoColumnIsNarrowerThanItsHead) {
