@@ -10,7 +10,7 @@
 #include "kit/controls/drivelist.h"
 #include "kit/controls/folderlist.h"
 #include "kit/controls/listview.h"
-#include "kit/controls/wrappingoption.h"
+#include "kit/controls/wrapping.h"
 #include "kit/look/text.h"
 #include "support/forms/gameforms.h"
 #include "support/forms/texts.h"
