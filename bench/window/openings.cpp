@@ -4,7 +4,6 @@
 #include <malloc.h>
 
 #include <QCoreApplication>
-#include <QPixmapCache>
 #include <cstdio>
 
 #include "app/tools.h"
@@ -55,8 +54,6 @@ void openOften(Forms& forms, int times) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
-    // Of a limited size, and Qt's own.
-    QPixmapCache::clear();
 }
 
 template <class T>

@@ -7,12 +7,34 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QTextEdit>
+#include <algorithm>
 
 #include "kit/look/pictures.h"
 
 namespace tessaro {
 namespace {
+
+// Fusion keeps a picture of each button and head that it draws, under a number of the palette. An
+// opening of a form makes new palettes, of new numbers, and leaves as many pictures behind as it
+// has controls. So equal palettes become one: there are a few, however often a form is opened.
+class SharedPalettes {
+  public:
+    void share(const QStyleOption* option) {
+        if (option == nullptr) return;
+        // Whoever has something drawn has made the option for that.
+        QPalette& palette = const_cast<QStyleOption*>(option)->palette;
+        const auto equal = std::find(known_.begin(), known_.end(), palette);
+        if (equal == known_.end())
+            known_.append(palette);
+        else
+            palette = *equal;
+    }
+
+  private:
+    QList<QPalette> known_;
+};
 
 // Fusion, whatever the desktop, but for one icon that every menu bar asks for at its birth: Qt
 // would load all picture libraries of the system to look at it, before the first paint.
@@ -28,6 +50,22 @@ class ProgramStyle : public QProxyStyle {
         return QIcon(programPicture(folder + QStringLiteral("toolbar-ext-h-16.png")));
     }
 
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        palettes_.share(option);
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        palettes_.share(option);
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override {
+        palettes_.share(option);
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+
     // Fusion lets a long caption touch the sides of its button.
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override {
@@ -35,6 +73,9 @@ class ProgramStyle : public QProxyStyle {
         if (type != CT_PushButton) return size;
         return size.expandedTo({contents.width() + 2 * option->fontMetrics.height(), 0});
     }
+
+  private:
+    mutable SharedPalettes palettes_;
 };
 
 // A colour, the same in both states of a window, and the one of disabled controls.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyle>
 
@@ -9,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyleOption>
 
 #include "support/forms/contrast.h"
 
@@ -52,6 +55,25 @@ TEST(ProgramStyle, LeavesACaptionRoomOnItsButton) {
     const QFontMetrics letters = button.fontMetrics();
     const int caption = letters.size(Qt::TextShowMnemonic, button.text()).width();
     EXPECT_GE(button.sizeHint().width(), caption + 2 * letters.height());
+}
+
+// Qt keeps what it paints by the number of the palette.
+quint64 paletteThatPaints(const QColor& ground) {
+    QStyleOptionButton option;
+    option.rect = {0, 0, 80, 24};
+    option.palette.setColor(QPalette::Button, ground);
+    QPixmap picture(80, 24);
+    QPainter painter(&picture);
+    QApplication::style()->drawControl(QStyle::CE_PushButton, &option, &painter);
+    return quint64(option.palette.cacheKey());
+}
+
+TEST(ProgramStyle, PaintsInOnePaletteWhatIsPaintedAlike) {
+    const quint64 red = paletteThatPaints(Qt::red);
+    const quint64 blue = paletteThatPaints(Qt::blue);
+    EXPECT_NE(red, blue);
+    EXPECT_EQ(paletteThatPaints(Qt::red), red);
+    EXPECT_EQ(paletteThatPaints(Qt::blue), blue);
 }
 
 TEST(DressedFields, ABoxThatCannotBeWrittenInIsFlat) {
