@@ -9,9 +9,10 @@ else()
 endif()
 
 add_library(tessaro_forms STATIC)
-# The first format of resources holds no dates, so that each build gives the same bytes.
+# The first format of resources holds no dates, so that each build gives the same bytes; and not each Qt
+# unpacks zstd, least of all the one for Windows.
 set_target_properties(tessaro_forms PROPERTIES AUTOMOC ON AUTORCC ON
-    AUTORCC_OPTIONS "--format-version;1")
+    AUTORCC_OPTIONS "--format-version;1;--no-zstd")
 target_sources(tessaro_forms PRIVATE ${CMAKE_SOURCE_DIR}/resources/tessaro.qrc)
 target_link_libraries(tessaro_forms PUBLIC tessaro_logic Qt6::Widgets PRIVATE ${player})
 target_compile_definitions(tessaro_forms PUBLIC
