@@ -13,7 +13,8 @@ namespace fs = std::filesystem;
 // A copy, since a link would make it take the folder of the original for the game's.
 void install(const fs::path& program, const fs::path& file) {
     fs::create_directories(file.parent_path());
-    fs::copy_file(program, file, fs::copy_options::overwrite_existing);
+    fs::remove(file);  // MinGW's library does not copy over a file, whatever it is told
+    fs::copy_file(program, file);
 }
 
 // With the ending of this system's programs.
