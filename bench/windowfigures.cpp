@@ -48,7 +48,7 @@ bool editor(const Place& place) {
 
 bool openings() {
     const HostPath program = executablePath().parent_path() / "tessaro-bench-openings";
-    std::istringstream told(outputOf({program.string()}));
+    std::istringstream told(outputOf({program.string(), memory().folder.string()}));
     std::string form;
     double bytes = 0;
     bool kept = true;
