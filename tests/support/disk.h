@@ -11,6 +11,7 @@ inline constexpr const char* noPermissions = "files are not kept from some of th
 inline constexpr const char* noDevices = "devices have no names among the files here";
 inline constexpr const char* noCases = "names that differ in case only are one name here";
 inline constexpr const char* noLostFolder = "a folder that a program is in cannot be deleted here";
+inline constexpr const char* noNamelessFiles = "a file has its name from the beginning here";
 inline constexpr const char* noOddNames = "no file can bear such a name here";
 
 /// Whether links can be made: not on every system, nor by everybody.
@@ -49,6 +50,11 @@ inline bool hasCases() {
 
 /// Whether a file may have any name but one with the separator in it: asterisks, stray bytes.
 inline bool hasOddNames() {
+    return onPosix();
+}
+
+/// Whether a file can be written before it has a name.
+inline bool hasNamelessFiles() {
     return onPosix();
 }
 

@@ -39,6 +39,11 @@ class FailingHost::Writer : public HostWriter {
         host_.pass(Call::Close, file_);
         real_->close();
     }
+    bool closeAs(const HostPath& name) override {
+        if (host_.early_) return false;
+        host_.pass(Call::Close, file_);
+        return real_->closeAs(name);
+    }
 
   private:
     FailingHost& host_;

@@ -41,6 +41,8 @@ class FailingHost : public Host {
     void protect(std::string part) { protected_ = std::move(part); }
     /// Files and folders whose name contains `part` are hidden, as some systems have it.
     void hide(std::string part) { hidden_ = std::move(part); }
+    /// A new file has its name from the beginning, as where the system knows no other way.
+    void nameEarly() { early_ = true; }
     /// A folder is gone with all that is in it.
     void vanish(const HostPath& folder) { vanished_ = folder.native(); }
     /// Nothing fails any more.
@@ -88,6 +90,7 @@ class FailingHost : public Host {
     std::optional<std::string> protected_;
     std::optional<std::string> hidden_;
     std::optional<HostPath::string_type> vanished_;
+    bool early_ = false;
 };
 
 }  // namespace tessaro::test

@@ -48,6 +48,9 @@ class HostWriter {
     /// Pushes what was written to the disk and ends the file there. A new file has its name from
     /// here on, and where the system can do that not before, so that no kill leaves half of one.
     virtual void close() = 0;
+    /// Does the same under another name than the new file was opened for, if that one is free and
+    /// the file has none yet. Does nothing and gives false if not.
+    virtual bool closeAs(const HostPath& /*name*/) { return false; }
 };
 
 /// A folder held open, so that asking for its stamp again costs less than going its path again.
@@ -127,7 +130,8 @@ class Host {
     /// A new file, under a name that must be free (58). If there is a file `like`, which it is to
     /// replace, it is made like that one, never more open.
     virtual std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) = 0;
-    /// A new file, under a name that must be free (58), with owner and permissions of `from`.
+    /// A new file, under a name that must be free (58), with owner and permissions of `from`, which
+    /// is what it is then asked to copy.
     virtual std::unique_ptr<HostWriter> createCopy(const HostPath& file, const HostPath& from) = 0;
     /// Writes over a file that is there, which stays what it is.
     virtual std::unique_ptr<HostWriter> overwrite(const HostPath& file) = 0;

@@ -15,7 +15,8 @@ HostPath hostPath(std::string_view text);
 inline HostPath inFolder(const HostPath& folder, std::string_view name) {
     HostPath::string_type path = folder.native();
     if (path.back() != HostPath::preferred_separator) path += HostPath::preferred_separator;
-    return path += hostPath(name).native();
+    path += hostPath(name).native();
+    return path;
 }
 
 }  // namespace tessaro

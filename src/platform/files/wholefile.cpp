@@ -24,6 +24,7 @@
 #include "platform/files/wholefile.h"
 
 #include <chrono>
+#include <cinttypes>
 #include <cstdint>
 #include <cstdio>
 #include <random>
@@ -49,15 +50,15 @@ using Question = std::function<bool()>;
 struct Replacement {
     Host& host;
     HostPath target;
-    bool alone;        // the folder is locked
-    HostPath copied;   // where there is no file yet, it is made as a copy of this one
-    Fill fill;         // writes the new contents
+    std::optional<HostStatus> old;  // nothing if there is no file yet
+    bool alone;                     // the folder is locked
+    HostPath copied;                // where there is no file yet, it is made as a copy of this one
+    Fill fill;                      // writes the new contents
     Question current;  // asked last of all: whether the new contents still stand for the old ones
-    bool there = false;
 
     std::unique_ptr<HostWriter> create(const HostPath& beside) const {
-        return there || copied.empty() ? host.create(beside, target)
-                                       : host.createCopy(beside, copied);
+        return old || copied.empty() ? host.create(beside, target)
+                                     : host.createCopy(beside, copied);
     }
     // Whether the system forbids a step, rather than fails at it, and there is another way.
     template <class Step>
@@ -68,7 +69,7 @@ struct Replacement {
         } catch (const RunTimeError& error) {
             const bool forbidden = error.number() == errors::PermissionDenied ||
                                    error.number() == errors::PathFileAccess;
-            if (!there || !forbidden) throw;
+            if (!old || !forbidden) throw;
             return true;
         }
     }
@@ -80,10 +81,12 @@ bool always() {
     return true;
 }
 
-std::string chanceDigits() {
-    static std::random_device chance;  // takes longer to make than to ask
+// Counted on from where chance has set in: to ask chance takes long.
+std::string freshDigits() {
+    static std::uint64_t last =
+        (std::uint64_t{std::random_device()()} << 32U) | std::random_device()();
     char digits[17];
-    std::snprintf(digits, sizeof digits, "%08x%08x", chance(), chance());
+    std::snprintf(digits, sizeof digits, "%016" PRIx64, ++last);
     return digits;
 }
 
@@ -91,7 +94,7 @@ std::string chanceDigits() {
 // folder's lock the name is ours alone, and what a killed one left there goes with the next write.
 // In the cache folder the game clears away *.tmp by itself.
 std::string temporaryName(bool alone) {
-    return alone ? ".tessaro.tmp" : ".tessaro-" + chanceDigits() + ".tmp";
+    return alone ? ".tessaro.tmp" : ".tessaro-" + freshDigits() + ".tmp";
 }
 
 void requireFolder(Host& host, const HostPath& folder) {
@@ -99,15 +102,36 @@ void requireFolder(Host& host, const HostPath& folder) {
     if (!status || !status->folder) throw RunTimeError(errors::PathNotFound, folder.string());
 }
 
-// The file behind a link, once it is clear that it may be replaced.
-HostPath replaceable(Host& host, const HostPath& file) {
-    HostPath target = host.target(file);
-    if (!host.status(target)) {
+// Raises what speaks against replacing a file, of which this is known.
+void requireReplaceable(Host& host, const HostPath& target, const std::optional<HostStatus>& old) {
+    if (!old) {
         requireFolder(host, target.parent_path());
     } else if (!host.writable(target)) {
         throw RunTimeError(errors::PathFileAccess, target.string());
     }
-    return target;
+}
+
+// What is known of a file, once it is clear that it may be replaced.
+std::optional<HostStatus> replaceable(Host& host, const HostPath& target) {
+    auto old = host.status(target);
+    requireReplaceable(host, target, old);
+    return old;
+}
+
+HostStatus requireFile(Host& host, const HostPath& file) {
+    const auto status = host.status(file);
+    if (!status) throw RunTimeError(errors::FileNotFound, file.string());
+    if (status->folder) throw RunTimeError(errors::PathFileAccess, file.string());
+    return *status;
+}
+
+// Raises what speaks against putting a copy into the place of a file.
+void requireCopyable(Host& host, const HostPath& from, const HostPath& to, const HostStatus& old) {
+    const HostStatus given = requireFile(host, from);
+    const bool same =
+        given.stamp.device == old.stamp.device && given.stamp.inode == old.stamp.inode;
+    if (same) throw RunTimeError(errors::PermissionDenied, to.string());
+    requireReplaceable(host, to, old);
 }
 
 // A file of ours that goes again, unless it takes a lasting place or is left where it is.
@@ -133,18 +157,23 @@ class PassingFile {
     bool passing_ = true;
 };
 
+// The new file is in place. If its name is not yet on the disk, a crash gives the old one.
+Outcome done(const Replacement& job) {
+    attempt([&] { job.host.flushFolder(job.target.parent_path()); });
+    return Outcome::Done;
+}
+
 Outcome renameOver(const Replacement& job, const HostPath& name) {
     std::unique_ptr<HostWriter> writer;
     if (job.forbids([&] { writer = job.create(name); })) return Outcome::Forbidden;
-    if (job.there && !writer->alike()) return Outcome::Forbidden;
+    if (job.old && !writer->alike()) return Outcome::Forbidden;
     job.fill(*writer);
+    if (!job.old && job.current() && writer->closeAs(job.target)) return done(job);
     writer->close();
     PassingFile beside(job.host, name);
     if (!job.current()) return Outcome::Outdated;
     if (job.forbids([&] { beside.moveTo(job.target); })) return Outcome::Forbidden;
-    // The new file is in place. If its name is not yet on the disk, a crash gives the old one.
-    attempt([&] { job.host.flushFolder(job.target.parent_path()); });
-    return Outcome::Done;
+    return done(job);
 }
 
 Outcome renameOver(const Replacement& job) {
@@ -171,7 +200,7 @@ void copyTo(Host& host, const HostPath& file, const HostPath& copy) {
 // Beside the file if that can be, so that after a kill the player finds it.
 HostPath keptCopy(Host& host, const HostPath& file) {
     HostPath name = file.filename();
-    name += ".tessaro-" + chanceDigits() + ".bak";
+    name += ".tessaro-" + freshDigits() + ".bak";
     HostPath beside = file.parent_path() / name;
     if (attempt([&] { copyTo(host, file, beside); })) return beside;
     HostPath elsewhere = host.keepingFolder() / name;
@@ -205,10 +234,8 @@ Outcome writeOver(const Replacement& job) {
     return Outcome::Done;
 }
 
-Outcome replace(Replacement job) {
-    const auto old = job.host.status(job.target);
-    job.there = old.has_value();
-    if (old && old->names > 1) return writeOver(job);
+Outcome replace(const Replacement& job) {
+    if (job.old && job.old->names > 1) return writeOver(job);
     const Outcome outcome = renameOver(job);
     return outcome == Outcome::Forbidden ? writeOver(job) : outcome;
 }
@@ -227,19 +254,20 @@ bool changeOnce(Host& host, const HostPath& target, bool alone, const FileChange
     const auto old = contentsOf(host, target);
     const auto changed = change(old ? std::string_view(*old) : std::string_view());
     if (!changed) return true;
-    requireReplaceable(host, target);
+    const auto there = replaceable(host, target);
     const auto current = [&] {
         return host.settles(target, noPatience) && contentsOf(host, target) == old;
     };
-    return replace({host, target, alone, {}, bytesOf(*changed), current}) == Outcome::Done;
+    return replace({host, target, there, alone, {}, bytesOf(*changed), current}) == Outcome::Done;
 }
 
 }  // namespace
 
 void replaceFile(Host& host, const HostPath& file, std::string_view bytes) {
-    const HostPath target = replaceable(host, file);
+    const HostPath target = host.target(file);
     const auto lock = host.lock(target.parent_path(), turnPatience);
-    replace({host, target, lock != nullptr, {}, bytesOf(bytes), always});
+    const auto old = replaceable(host, target);
+    replace({host, target, old, lock != nullptr, {}, bytesOf(bytes), always});
 }
 
 void changeFile(Host& host, const HostPath& file, const FileChange& change) {
@@ -254,13 +282,22 @@ void changeFile(Host& host, const HostPath& file, const FileChange& change) {
 }
 
 void requireReplaceable(Host& host, const HostPath& file) {
-    replaceable(host, file);
+    replaceable(host, host.target(file));
 }
 
 void replaceByCopy(Host& host, const HostPath& from, const HostPath& to) {
-    const HostPath target = replaceable(host, to);
+    const HostPath target = host.target(to);
+    const auto old = host.status(target);
+    if (old) requireCopyable(host, from, target, *old);
     const auto fill = [&](HostWriter& writer) { writer.copy(from); };
-    replace({host, target, false, from, fill, always});
+    try {
+        replace({host, target, old, false, from, fill, always});
+    } catch (const RunTimeError&) {
+        // Asked only now: of thousands of copies each has its file and its folder.
+        requireFile(host, from);
+        requireFolder(host, target.parent_path());
+        throw;
+    }
 }
 
 bool isUnderWay(std::string_view hostName) {

@@ -28,7 +28,8 @@ void changeFile(Host& host, const HostPath& file, const FileChange& change);
 void requireReplaceable(Host& host, const HostPath& file);
 
 /// The same as `replaceFile` with the contents of another file. When this returns they are on the
-/// disk, so that the other one can be deleted.
+/// disk, so that the other one can be deleted. Raises 53 without that one, 75 if it is a folder and
+/// 70 if both are the same file.
 void replaceByCopy(Host& host, const HostPath& from, const HostPath& to);
 
 /// Whether a host name is that of a file that a write of ours has under way, or that a killed one

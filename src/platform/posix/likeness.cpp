@@ -1,6 +1,5 @@
 #include "platform/posix/likeness.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -100,13 +99,13 @@ void giveAccessList(int /*file*/, const std::string& /*list*/) {}
 
 }  // namespace
 
+Likeness::Likeness(const struct stat& info)
+    : owner_(info.st_uid), group_(info.st_gid), permissions_(info.st_mode & permissionBits) {}
+
 std::optional<Likeness> Likeness::of(const HostPath& file) {
     struct stat info = {};
     if (::stat(systemName(file), &info) == -1) return std::nullopt;
-    Likeness likeness;
-    likeness.owner_ = info.st_uid;
-    likeness.group_ = info.st_gid;
-    likeness.permissions_ = info.st_mode & permissionBits;
+    Likeness likeness(info);
     likeness.accessList_ = accessListOf(file);
     likeness.attributes_ = attributesOf(file);
     return likeness;
@@ -120,13 +119,19 @@ bool Likeness::giveTo(int file) const {
     return isOf(file);
 }
 
-void Likeness::giveToCopy(int file) const {
-    giveOwner(file);
-    givePermissions(file, accessList_.empty());
+void Likeness::giveToCopy(int from, int copy) {
+    struct stat info = {};
+    if (::fstat(from, &info) == -1) return;
+    const Likeness likeness(info);
+    likeness.giveOwner(copy);
+    likeness.givePermissions(copy, accessListOf(from).empty());
 }
 
-// Only a privileged user may give files away; most may choose among their own groups.
+// Only a privileged user may give files away; most may choose among their own groups. Mostly it is
+// ours already, and then the disk is spared the change.
 void Likeness::giveOwner(int file) const {
+    struct stat info = {};
+    if (::fstat(file, &info) == 0 && info.st_uid == owner_ && info.st_gid == group_) return;
     if (::fchown(file, owner_, group_) == -1)
         passOver(::fchown(file, static_cast<uid_t>(-1), group_));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <sys/types.h>
+#include <sys/stat.h>
 
 #include <map>
 #include <optional>
@@ -25,10 +25,12 @@ class Likeness {
     /// Makes an open file of ours so, as far as disk and system let us: what they refuse leaves it
     /// less open, never more. Tells whether owner, permissions and access list came to be.
     bool giveTo(int file) const;
-    /// Gives owner and permissions only. A copy has the access list that its folder gives it.
-    void giveToCopy(int file) const;
+    /// Makes an open file of ours, a copy of another open one, like that in owner and permissions
+    /// only. A copy has the access list that its folder gives it.
+    static void giveToCopy(int from, int copy);
 
   private:
+    explicit Likeness(const struct stat& info);
     void giveOwner(int file) const;
     void givePermissions(int file, bool listed) const;
     bool isOf(int file) const;

@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
+#include <climits>
 #include <csignal>
 
 #include "platform/files/host.h"
@@ -112,6 +114,14 @@ void takeEntries(const HostPath& folder, Take&& take) {
         errno = 0;
     }
     if (errno != 0) raiseErrno(folder);
+}
+
+// Where a link leads; nothing if there is none.
+HostPath linkAt(const HostPath& path) {
+    std::array<char, PATH_MAX> text;
+    const ssize_t size = ::readlink(systemName(path), text.data(), text.size());
+    return size > 0 ? HostPath(std::string_view(text.data(), static_cast<std::size_t>(size)))
+                    : HostPath();
 }
 
 class PosixHost : public Host {
@@ -235,11 +245,9 @@ class PosixHost : public Host {
     }
 
     HostPath target(const HostPath& path) override {
-        systemName(path);
         HostPath current = path;
-        std::error_code ignored;
         for (int step = 0; step < mostLinks; ++step) {
-            const HostPath next = std::filesystem::read_symlink(current, ignored);
+            const HostPath next = linkAt(current);
             if (next.empty()) return current;
             current = next.is_absolute() ? next : current.parent_path() / next;
         }

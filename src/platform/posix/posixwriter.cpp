@@ -55,28 +55,47 @@ class NewFile : public PosixWriter {
     }
 
     int descriptor() const { return file_.get(); }
+    void setSource(Descriptor source) { source_.emplace(std::move(source)); }
+    void copy(const HostPath& from) override {
+        source_ ? copyContents(*source_, file_) : PosixWriter::copy(from);
+    }
     void setAlike(bool alike) { alike_ = alike; }
     bool alike() const override { return alike_; }
     void close() override {
         file_.flush();
-        if (!named_) giveName();
-        file_.close();
-        unfinished_ = false;
+        if (!named_ && !giveName()) raiseErrno(name_);
+        end();
+    }
+    bool closeAs(const HostPath& name) override {
+        if (named_) return false;
+        file_.flush();
+        const HostPath given = std::exchange(name_, name);
+        if (giveName()) {
+            end();
+            return true;
+        }
+        name_ = given;
+        return false;
     }
 
   private:
     // Straight where the system lets us (an older one lets the privileged only), else through the
-    // name that every open file has there.
-    void giveName() {
+    // name that every open file has there. If it fails, `errno` tells why.
+    bool giveName() {
         int done = ::linkat(file_.get(), "", AT_FDCWD, systemName(name_), AT_EMPTY_PATH);
         if (done == -1 && errno != EEXIST) {
             const std::string file = "/proc/self/fd/" + std::to_string(file_.get());
             done = ::linkat(AT_FDCWD, file.c_str(), AT_FDCWD, name_.c_str(), AT_SYMLINK_FOLLOW);
         }
-        if (done == -1) raiseErrno(name_);
-        unfinished_ = true;
+        unfinished_ = done == 0;
+        return unfinished_;
+    }
+    void end() {
+        file_.close();
+        unfinished_ = false;
     }
 
+    std::optional<Descriptor> source_;  // open already
     HostPath name_;
     bool unfinished_;  // has its name, and is not whole or not known to be
     bool named_;       // from the beginning
@@ -121,9 +140,10 @@ std::unique_ptr<HostWriter> writerLike(const HostPath& file, const HostPath& lik
 }
 
 std::unique_ptr<HostWriter> writerOfCopy(const HostPath& file, const HostPath& from) {
-    const auto likeness = Likeness::of(from);
+    Descriptor source = openRegular(from);
     auto created = openNew(file, onlyOurs);
-    if (likeness) likeness->giveToCopy(created->descriptor());
+    Likeness::giveToCopy(source.get(), created->descriptor());
+    created->setSource(std::move(source));
     return created;
 }
 

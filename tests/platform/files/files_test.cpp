@@ -292,6 +292,7 @@ TEST(Files, CopyRaisesWhatFits) {
         return errorOf([&] { world.files.copyFile(from, to); });
     };
     EXPECT_EQ(copy("C:\\nothing", "C:\\to"), errors::FileNotFound);
+    EXPECT_EQ(copy("C:\\nothing", "C:\\nowhere\\to"), errors::FileNotFound);
     EXPECT_EQ(copy("C:\\from", "C:\\nowhere\\to"), errors::PathNotFound);
     EXPECT_EQ(copy("C:\\from", "C:\\folder"), errors::PathFileAccess);
     EXPECT_EQ(copy("C:\\folder", "C:\\to"), errors::PathFileAccess);

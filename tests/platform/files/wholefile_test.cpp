@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <fstream>
 #include <functional>
 
 #include "support/disk.h"
@@ -145,13 +146,47 @@ TEST(WholeFile, AFailureOnTheWayLeavesTheOldFile) {
 
 TEST(WholeFile, AFailureOnTheWayToANewFileLeavesNothing) {
     Folder world;
-    for (const Call call : {Call::Create, Call::Close, Call::Rename}) {
+    const auto expectNothing = [&](Call call) {
         world.host.refuse(call, errors::PermissionDenied);
         EXPECT_EQ(errorOf([&] { replaceFile(world.host, world.at("C:\\s\\new"), "x"); }),
                   errors::PermissionDenied);
         world.host.relent();
         world.expectOld();
+    };
+    for (const Call call : {Call::Create, Call::Close}) expectNothing(call);
+    world.host.nameEarly();
+    for (const Call call : {Call::Create, Call::Close, Call::Rename}) expectNothing(call);
+}
+
+TEST(WholeFile, ANewFileGetsItsOwnNameAtOnceWhereTheSystemCanDoThat) {
+    Folder world;
+    if (!test::hasNamelessFiles()) GTEST_SKIP() << test::noNamelessFiles;
+    replaceFile(world.host, world.at("C:\\s\\new"), newer);
+    EXPECT_EQ(world.host.count(Call::Rename), 0);
+    EXPECT_EQ(world.read("C:\\s\\new"), newer);
+    world.host.nameEarly();
+    replaceFile(world.host, world.at("C:\\s\\newest"), newer);
+    EXPECT_EQ(world.host.count(Call::Rename), 1);
+    EXPECT_EQ(world.read("C:\\s\\newest"), newer);
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("file.ini", "new", "newest"));
+}
+
+// Another program makes the file while ours is being written.
+class OvertakenHost : public test::FailingHost {
+  public:
+    using FailingHost::FailingHost;
+    std::unique_ptr<HostWriter> create(const HostPath& file, const HostPath& like) override {
+        std::ofstream(like) << "theirs";
+        return FailingHost::create(file, like);
     }
+};
+
+TEST(WholeFile, AFileThatCameMeanwhileIsReplaced) {
+    Folder world;
+    OvertakenHost host(world.host);
+    replaceFile(host, world.at("C:\\s\\new"), newer);
+    EXPECT_EQ(world.read("C:\\s\\new"), newer);
+    EXPECT_THAT(world.names("C:\\s"), ElementsAre("file.ini", "new"));
 }
 
 TEST(WholeFile, AFolderThatCannotBeFlushedIsNoFailure) {
@@ -244,6 +279,10 @@ TEST(WholeFile, BytesAreOnTheDiskBeforeTheyGetTheirNameAndTheNameBeforeAllIsDone
                 ElementsAre(Call::Create, Call::Close, Call::Rename, Call::Flush));
     EXPECT_THAT(stepsOf([&] { replaceByCopy(world.host, world.at("C:\\from"), world.file()); }),
                 ElementsAre(Call::Create, Call::Copy, Call::Close, Call::Rename, Call::Flush));
+    if (!test::hasNamelessFiles()) return;
+    EXPECT_THAT(
+        stepsOf([&] { replaceByCopy(world.host, world.at("C:\\from"), world.at("C:\\s\\new")); }),
+        ElementsAre(Call::Create, Call::Copy, Call::Close, Call::Flush));
 }
 
 TEST(WholeFile, ACopyReplacesWithTheOldPermissions) {
