@@ -59,6 +59,7 @@ bool Extraction::announceMissingIndex(const std::string& index) {
 bool Extraction::extractUntilStopped(const std::string& cacheFolder) {
     attempt([&] { program_.table.openInput(sharedFileNumber, cacheIndexIn(cacheFolder)); });
     bool stopped = false;
+    const Files::ManyQuestions many(program_.files);
     attempt([&] {
         while (!stopped && !program_.table.endOfFile(sharedFileNumber)) {
             pass(cacheFolder);

@@ -180,7 +180,7 @@ void Files::copyFile(std::string_view from, std::string_view to) {
     const HostPath source = paths_.toHost(from);
     const HostPath target = paths_.toWrite(to);
     replaceByCopy(host_, source, target);
-    paths_.forget(target.parent_path());
+    paths_.add(target);
 }
 
 std::vector<std::string> Files::namesToDelete(std::string_view pattern) {

@@ -88,6 +88,21 @@ class Files {
         FileMemory& memory_;
     };
 
+    /// While one lives, an answer about a name may be 20 ms old, but for what we write
+    /// ourselves: for a run of questions so long that looking at the folder each time would count.
+    class ManyQuestions {
+      public:
+        explicit ManyQuestions(Files& files) : paths_(files.paths_) {
+            paths_.setManyQuestions(true);
+        }
+        ~ManyQuestions() { paths_.setManyQuestions(false); }
+        ManyQuestions(const ManyQuestions&) = delete;
+        ManyQuestions& operator=(const ManyQuestions&) = delete;
+
+      private:
+        Paths& paths_;
+    };
+
   private:
     bool remembers(std::string_view file);
     HostPath toChange(std::string_view file);

@@ -11,10 +11,14 @@
 // a tick is the stamp itself lets guess: one of whole seconds comes from a coarse clock. And where
 // it is the clock of another machine, what counts is when we first saw the stamp.
 //
-// Going a folder's path costs more than looking at a folder that is held open, so a big one is
-// held. But what is held stays the same folder when one above it is renamed and another comes to
-// stand at the path. So the path is gone again every now and then, and a rename above is seen a
-// little later.
+// Going a folder's path costs more than looking at a folder that is held open, so one that is asked
+// often is held. But what is held stays the same folder when one above it is renamed and another
+// comes to stand at the path. So the path is gone again every now and then, and a rename above is
+// seen a little later.
+//
+// Any answer is true for the moment of the look only. A tool that asks for thousands of names in a
+// row lets a look serve for a moment longer, and says itself what it adds to a folder: to list a
+// folder of 5,000 maps anew for each that is extracted would cost more than to extract it.
 //
 // Where the names cannot be read at all, only the exact name can be asked for. If there is none,
 // one in another case may still be there, so the answer is the failure.
@@ -40,9 +44,10 @@ constexpr std::int64_t second = 1'000'000'000;
 constexpr std::int64_t fineTick = second / 50;
 constexpr std::int64_t coarseTick = 2 * second + fineTick;
 
-// Holding a folder pays if it is asked often. It keeps a disk from being unplugged, too.
-constexpr std::size_t bigFolder = 1000;
-constexpr std::chrono::milliseconds pathTrust{20};
+// Questions between two changes after which it pays to hold a folder. That keeps a disk from being
+// unplugged, too.
+constexpr int often = 100;
+constexpr std::chrono::milliseconds trust{20};
 
 std::int64_t tickOf(const FolderStamp& stamp) {
     return stamp.changedNanoseconds % second == 0 ? coarseTick : fineTick;
@@ -58,11 +63,24 @@ std::int64_t nanosecondsNow() {
 void FolderIndex::Table::fill(std::vector<std::string> names) {
     names_ = std::move(names);
     slots_.assign(std::bit_ceil(2 * names_.size() + 1), {});
-    for (std::size_t index = 0; index < names_.size(); ++index) {
-        const std::uint32_t hash = nameHash(names_[index]);
-        std::size_t at = hash & (slots_.size() - 1);
-        while (slots_[at].name != 0) at = (at + 1) & (slots_.size() - 1);
-        slots_[at] = {hash, static_cast<std::uint32_t>(index + 1)};
+    for (std::size_t index = 0; index < names_.size(); ++index) place(index);
+}
+
+void FolderIndex::Table::place(std::size_t index) {
+    const std::uint32_t hash = nameHash(names_[index]);
+    std::size_t at = hash & (slots_.size() - 1);
+    while (slots_[at].name != 0) at = (at + 1) & (slots_.size() - 1);
+    slots_[at] = {hash, static_cast<std::uint32_t>(index + 1)};
+}
+
+void FolderIndex::Table::add(std::string name) {
+    const std::string* same = find(name);
+    if (same && *same == name) return;
+    names_.push_back(std::move(name));
+    if (slots_.size() > 2 * names_.size()) {
+        place(names_.size() - 1);
+    } else {
+        fill(std::move(names_));
     }
 }
 
@@ -101,7 +119,10 @@ FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view 
 // there is no such folder.
 FolderIndex::Names* FolderIndex::namesNow(const HostPath& folder, bool& justRead) {
     const auto known = folders_.find(folder.native());
-    if (known != folders_.end() && unchanged(known->second)) return &known->second;
+    if (known != folders_.end() && unchanged(known->second)) {
+        justRead = isFresh(known->second.readAt, known->second.lookedAt);
+        return &known->second;
+    }
     const auto status = host_.status(folder);
     if (!status || !status->folder) {
         forget(folder);
@@ -112,15 +133,42 @@ FolderIndex::Names* FolderIndex::namesNow(const HostPath& folder, bool& justRead
         read(folder, status->stamp, names);
         justRead = !names.refusal;
     }
-    names.foundAt = std::chrono::steady_clock::now();
+    names.foundAt = names.lookedAt = std::chrono::steady_clock::now();
+    if (++names.questions == often) attempt([&] { names.held = host_.hold(folder); });
     return &names;
+}
+
+void FolderIndex::add(const HostPath& file) {
+    const HostPath folder = file.parent_path();
+    const auto known = folders_.find(folder.native());
+    if (known == folders_.end()) return;
+    if (manySince_ && !known->second.refusal) {
+        known->second.table.add(gameName(file.filename().string()));
+    } else {
+        forget(folder);
+    }
+}
+
+void FolderIndex::setManyQuestions(bool many) {
+    manySince_.reset();
+    if (many) manySince_ = std::chrono::steady_clock::now();
+}
+
+// Whether a look can still serve amid many questions.
+bool FolderIndex::isFresh(Time look, Time now) const {
+    return manySince_ && look >= *manySince_ && now - look < trust;
 }
 
 // A held folder's stamp tells of new names at once, but not that another folder took the place of
 // one above. So its path is gone again every now and then.
-bool FolderIndex::unchanged(const Names& names) {
-    return names.held && std::chrono::steady_clock::now() - names.foundAt < pathTrust &&
-           names.held->stamp() == names.stamp;
+bool FolderIndex::unchanged(Names& names) const {
+    if (!names.held && !manySince_) return false;
+    const Time now = std::chrono::steady_clock::now();
+    if (isFresh(names.lookedAt, now)) return true;
+    if (!names.held || now - names.foundAt >= trust || names.held->stamp() != names.stamp)
+        return false;
+    names.lookedAt = now;
+    return true;
 }
 
 void FolderIndex::read(const HostPath& folder, FolderStamp stamp, Names& names) {
@@ -140,10 +188,10 @@ void FolderIndex::read(const HostPath& folder, FolderStamp stamp, Names& names) 
     for (std::string& each : listing) {
         if (needsStandIn(each)) each = gameName(each);
     }
-    const bool big = listing.size() >= bigFolder;
     names.table.fill(std::move(listing));
+    names.readAt = names.refusal ? Time() : std::chrono::steady_clock::now();
+    names.questions = 0;
     names.held.reset();
-    if (big) attempt([&] { names.held = host_.hold(folder); });
 }
 
 }  // namespace tessaro

@@ -16,7 +16,7 @@ namespace tessaro {
 
 /// Finds names in host folders without regard to case. Keeps an index per folder, dropped when the
 /// folder changes, so that asking a folder of 30,000 files for many missing names stays cheap: a
-/// question costs one look at the folder's stamp, for a big folder mostly without its path.
+/// question costs one look at the folder's stamp, where it is asked often mostly without its path.
 class FolderIndex {
   public:
     explicit FolderIndex(Host& host) : host_(host) {}
@@ -34,12 +34,19 @@ class FolderIndex {
     /// another case must not be taken for a free one.
     Finding find(const HostPath& folder, std::string_view name);
     void forget(const HostPath& folder) { folders_.erase(folder.native()); }
+    /// A file of ours has come into its folder, if it was not there.
+    void add(const HostPath& file);
+    /// Whether many questions are to come in a row: then an answer may be 20 ms old, but for what
+    /// `forget` and `add` tell of.
+    void setManyQuestions(bool many);
 
   private:
+    using Time = std::chrono::steady_clock::time_point;
     // A hash table of its own kind: a miss, the common answer, reads one place in memory.
     class Table {
       public:
         void fill(std::vector<std::string> names);
+        void add(std::string name);
         const std::string* find(std::string_view name) const;
 
       private:
@@ -47,6 +54,7 @@ class FolderIndex {
             std::uint32_t hash;
             std::uint32_t name;  // counted from 1, 0 in a free slot
         };
+        void place(std::size_t index);
         std::vector<std::string> names_;
         std::vector<Slot> slots_;  // a power of two, so that a hash is cut to a slot by a mask
     };
@@ -54,17 +62,22 @@ class FolderIndex {
         FolderStamp stamp;
         std::int64_t stampSeenAt = 0;         // when a listing first met this stamp; nanoseconds
         bool settled = false;                 // a change from here on would show in the stamp
+        int questions = 0;                    // since the names were read
         std::optional<RunTimeError> refusal;  // what listing it raised
         Table table;
-        std::unique_ptr<HeldFolder> held;               // of a big folder
-        std::chrono::steady_clock::time_point foundAt;  // by its path
+        std::unique_ptr<HeldFolder> held;  // of one that is asked often
+        Time readAt;
+        Time lookedAt;
+        Time foundAt;  // by its path
     };
     Names* namesNow(const HostPath& folder, bool& justRead);
-    static bool unchanged(const Names& names);
+    bool isFresh(Time look, Time now) const;
+    bool unchanged(Names& names) const;
     void read(const HostPath& folder, FolderStamp stamp, Names& names);
 
     Host& host_;
     std::unordered_map<HostPath::string_type, Names> folders_;
+    std::optional<Time> manySince_;
 };
 
 }  // namespace tessaro

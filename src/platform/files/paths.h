@@ -74,6 +74,10 @@ class Paths {
 
     /// To be called after we made, renamed or removed a name in a host folder.
     void forget(const HostPath& folder) { index_.forget(folder); }
+    /// To be called after we wrote a file that may not have been there.
+    void add(const HostPath& file) { index_.add(file); }
+    /// See FolderIndex.
+    void setManyQuestions(bool many) { index_.setManyQuestions(many); }
 
   private:
     const HostPath& rootOf(char drive) const;

@@ -165,10 +165,11 @@ TEST(FolderIndex, OfSeveralFoldsTheFirstInByteOrderIsTaken) {
     EXPECT_EQ(index.find(world.at("C:\\x"), "aBc").name, "aBc");
 }
 
-// A folder so big that the index holds it open.
-struct BigFolder : TestWorld {
-    BigFolder() : real(makeHost()), index(*real) {
-        for (int i = 0; i < 1200; ++i) write("C:\\Game\\Cache\\" + std::to_string(i), "");
+// A folder that is asked so often that the index holds it open.
+struct BusyFolder : TestWorld {
+    BusyFolder() : real(makeHost()), index(*real) {
+        write("C:\\Game\\Cache\\7", "");
+        for (int i = 0; i < 1000; ++i) find("7");
     }
     FolderIndex::Finding find(std::string_view name) {
         return index.find(at("C:\\Game\\Cache"), name);
@@ -177,8 +178,8 @@ struct BigFolder : TestWorld {
     FolderIndex index;
 };
 
-TEST(FolderIndex, NewNamesInABigFolderAreSeenAtOnce) {
-    BigFolder world;
+TEST(FolderIndex, NewNamesInABusyFolderAreSeenAtOnce) {
+    BusyFolder world;
     for (int i = 0; i < 100; ++i) {
         const std::string name = "Name" + std::to_string(i);
         ASSERT_FALSE(world.find(name).name) << i;
@@ -187,8 +188,8 @@ TEST(FolderIndex, NewNamesInABigFolderAreSeenAtOnce) {
     }
 }
 
-TEST(FolderIndex, ABigFolderThatIsRenamedIsNoticedAtOnce) {
-    BigFolder world;
+TEST(FolderIndex, ABusyFolderThatIsRenamedIsNoticedAtOnce) {
+    BusyFolder world;
     ASSERT_TRUE(world.find("7").name);
     std::filesystem::rename(world.at("C:\\Game\\Cache"), world.at("C:\\Game\\Old"));
     EXPECT_FALSE(world.find("7").folder);
@@ -197,12 +198,102 @@ TEST(FolderIndex, ABigFolderThatIsRenamedIsNoticedAtOnce) {
     EXPECT_FALSE(world.find("7").name);
 }
 
-TEST(FolderIndex, ARenameAboveABigFolderIsNoticedSoon) {
-    BigFolder world;
+TEST(FolderIndex, ARenameAboveABusyFolderIsNoticedSoon) {
+    BusyFolder world;
     ASSERT_TRUE(world.find("7").name);
     std::filesystem::rename(world.at("C:\\Game"), world.at("C:\\Old"));
     int patience = 10'000'000;
     while (world.find("7").folder && --patience > 0) continue;
+    EXPECT_GT(patience, 0);
+}
+
+TEST(FolderIndex, AFolderThatIsAskedOftenIsHeld) {
+    class HoldingHost : public FailingHost {
+      public:
+        using FailingHost::FailingHost;
+        std::unique_ptr<HeldFolder> hold(const HostPath& folder) override {
+            held.push_back(folder);
+            return nullptr;
+        }
+        std::vector<HostPath> held;
+    };
+    TestWorld world;
+    world.write("C:\\Cache\\a", "");
+    HoldingHost host(world.host);
+    FolderIndex index(host);
+    const auto ask = [&](int times) {
+        for (int i = 0; i < times; ++i) index.find(world.at("C:\\Cache"), "a");
+    };
+    ask(99);
+    EXPECT_TRUE(host.held.empty());
+    ask(1);
+    EXPECT_EQ(host.held, std::vector{world.at("C:\\Cache")});
+}
+
+// A folder that never seems to change, asked many questions.
+struct ManyQuestions : TestWorld {
+    ManyQuestions() : stamped(host), index(stamped) {
+        write("C:\\Maps\\a", "");
+        index.setManyQuestions(true);
+    }
+    FolderIndex::Finding find(std::string_view name) { return index.find(at("C:\\Maps"), name); }
+    StampedHost stamped;
+    FolderIndex index;
+};
+
+TEST(FolderIndex, AmidManyQuestionsALookServesForSome) {
+    ManyQuestions world;
+    for (int i = 0; i < 1000; ++i) EXPECT_FALSE(world.find(std::to_string(i)).name);
+    EXPECT_LT(world.stamped.count(Call::Status), 500);
+}
+
+TEST(FolderIndex, AmidManyQuestionsWhatIsAddedIsKnownWithoutAnotherListing) {
+    ManyQuestions world;
+    for (int i = 0; i < 100; ++i) {
+        const std::string name = "Map" + std::to_string(i);
+        EXPECT_FALSE(world.find(name).name);
+        world.write("C:\\Maps\\" + name, "");
+        world.index.add(world.at("C:\\Maps\\" + name));
+        world.index.add(world.at("C:\\Maps\\" + name));
+    }
+    for (int i = 0; i < 100; ++i)
+        EXPECT_EQ(world.find("MAP" + std::to_string(i)).name, "Map" + std::to_string(i));
+    EXPECT_EQ(world.find("A").name, "a");
+    EXPECT_EQ(world.stamped.count(Call::List), 1);
+}
+
+TEST(FolderIndex, WithoutManyQuestionsAnAddedNameHasTheFolderListedAnew) {
+    ManyQuestions world;
+    world.index.setManyQuestions(false);
+    EXPECT_FALSE(world.find("mine").name);
+    world.write("C:\\Maps\\Mine", "");
+    world.write("C:\\Maps\\Theirs", "");
+    world.index.add(world.at("C:\\Maps\\Mine"));
+    EXPECT_EQ(world.find("mine").name, "Mine");
+    EXPECT_EQ(world.find("theirs").name, "Theirs");
+}
+
+TEST(FolderIndex, ManyQuestionsBeginWithALookAtTheFolder) {
+    ManyQuestions world;
+    for (int i = 0; i < 100; ++i) {
+        const std::string name = "Map" + std::to_string(i);
+        EXPECT_FALSE(world.find(name).name);
+        world.write("C:\\Maps\\" + name, "");
+        world.stamped.stamp += 1;
+        world.index.setManyQuestions(true);
+        EXPECT_EQ(world.find("MAP" + std::to_string(i)).name, name);
+    }
+}
+
+TEST(FolderIndex, WhatOthersAddAmidManyQuestionsIsSeenSoon) {
+    TestWorld world;
+    world.makeFolder("C:\\Maps");
+    FolderIndex index(world.host);
+    index.setManyQuestions(true);
+    EXPECT_FALSE(index.find(world.at("C:\\Maps"), "theirs").name);
+    world.write("C:\\Maps\\Theirs", "");
+    int patience = 10'000'000;
+    while (!index.find(world.at("C:\\Maps"), "theirs").name && --patience > 0) continue;
     EXPECT_GT(patience, 0);
 }
 
