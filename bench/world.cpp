@@ -17,6 +17,17 @@ HostPath makeFolderIn(const HostPath& above) {
     return folder;
 }
 
+// Folders that were used, until the last figure was taken: a disk may pass over the places of files
+// deleted a moment ago one by one before it finds one for a new file, and those of 32,000 would be
+// most of the next figure.
+struct Leftovers {
+    ~Leftovers() {
+        std::error_code ignored;
+        for (const HostPath& folder : folders) fs::remove_all(folder, ignored);
+    }
+    std::vector<HostPath> folders;
+} leftovers;
+
 }  // namespace
 
 World::World(const HostPath& above)
@@ -34,7 +45,7 @@ World::World(const HostPath& above)
 World::~World() {
     std::error_code ignored;
     fs::current_path(start_, ignored);
-    fs::remove_all(folder_, ignored);
+    leftovers.folders.push_back(folder_);
 }
 
 HostPath World::at(std::string_view gamePath) const {

@@ -43,7 +43,8 @@ class JumpingClock : public Events {
     double now_ = 0;
 };
 
-/// A Wine prefix in a folder of its own, removed at the end, with the current folder inside.
+/// A Wine prefix in a folder of its own, with the current folder inside. The folder is removed when
+/// the program ends.
 class World {
   public:
     explicit World(const HostPath& above);
