@@ -7,9 +7,9 @@
 //
 // A clock stands behind the stamp, and it ticks. Names may have come later in the very tick that
 // the stamp tells of, and it would not show. So the names are settled only if they were read a tick
-// or more after the stamp's time; until then a miss is no answer, and they are read again. How long
-// a tick is the stamp itself lets guess: one of whole seconds comes from a coarse clock. And where
-// it is the clock of another machine, what counts is when we first saw the stamp.
+// or more after the stamp's time; until then they are read anew for each answer. How long a tick is
+// the stamp itself lets guess: one of whole seconds comes from a coarse clock. And where it is the
+// clock of another machine, what counts is when we first saw the stamp.
 //
 // Going a folder's path costs more than looking at a folder that is held open, so one that is asked
 // often is held. But what is held stays the same folder when one above it is renamed and another
@@ -101,14 +101,11 @@ FolderIndex::Finding FolderIndex::find(const HostPath& folder, std::string_view 
     bool justRead = false;
     Names* names = namesNow(folder, justRead);
     if (!names) return {};
+    // Within a tick of the folder's last change names that were read before prove nothing, so the
+    // folder is read again. That ends with the tick: at worst a run of questions reads the folder
+    // over and over for so long.
+    if (!names->settled && !justRead) read(folder, names->stamp, *names);
     const std::string* spelled = names->table.find(name);
-    // Within a tick of the folder's last change a miss among names that were read before proves
-    // nothing, so the folder is read again. That ends with the tick: at worst a run of misses reads
-    // the folder over and over for so long.
-    if (!spelled && !names->settled && !justRead) {
-        read(folder, names->stamp, *names);
-        spelled = names->table.find(name);
-    }
     if (spelled) return {true, *spelled};
     if (!names->refusal) return {true, std::nullopt};
     if (!host_.status(inFolder(folder, hostName(name)))) throw RunTimeError(*names->refusal);

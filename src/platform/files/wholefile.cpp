@@ -1,8 +1,9 @@
 // How a file is replaced.
 //
 // The new bytes go into a new file in the same folder, made like the old one and pushed to the
-// disk. Where the system can do that it has no name until then. A rename puts it into the place of
-// the old file: at no moment is there half of one, for a reader, after a kill or a power cut.
+// disk. Where the system can do that it has no name until then, and where there is no old file it
+// gets the right one at once. Else a rename puts it into the place of the old file: at no moment is
+// there half of one, for a reader, after a kill or a power cut.
 //
 // But a rename puts another file into the place. A second name of the old one would be left with
 // the old bytes; and where the new one could not be made like the old one, where files cannot come

@@ -103,6 +103,18 @@ TEST(FolderIndex, AClockAheadOfOursHidesNothing) {
     EXPECT_EQ(index.find(world.at("C:\\Cache"), "a").name, "a");
 }
 
+TEST(FolderIndex, TheExactNameIsTakenThoughTheStampHidesThatItCame) {
+    if (!test::hasCases()) GTEST_SKIP() << test::noCases;
+    TestWorld world;
+    world.write("C:\\Cache\\A", "");
+    StampedHost host(world.host);
+    host.stamp = now() + 3'600'000'000'001;
+    FolderIndex index(host);
+    EXPECT_EQ(index.find(world.at("C:\\Cache"), "a").name, "A");
+    world.write("C:\\Cache\\a", "");
+    EXPECT_EQ(index.find(world.at("C:\\Cache"), "a").name, "a");
+}
+
 TEST(FolderIndex, EveryNewNameIsSeenAtOnceInARealFolder) {
     TestWorld world;
     world.makeFolder("C:\\Cache");
@@ -208,9 +220,9 @@ TEST(FolderIndex, ARenameAboveABusyFolderIsNoticedSoon) {
 }
 
 TEST(FolderIndex, AFolderThatIsAskedOftenIsHeld) {
-    class HoldingHost : public FailingHost {
+    class HoldingHost : public StampedHost {
       public:
-        using FailingHost::FailingHost;
+        using StampedHost::StampedHost;
         std::unique_ptr<HeldFolder> hold(const HostPath& folder) override {
             held.push_back(folder);
             return nullptr;
