@@ -2,9 +2,9 @@
 
 #include <QObject>
 #include <functional>
-#include <map>
 #include <memory>
 #include <typeindex>
+#include <unordered_map>
 #include <vector>
 
 #include "kit/forms/form.h"
@@ -111,7 +111,8 @@ class Forms {
 
     Dialogs& dialogs_;
     ProgramEnd& end_;
-    std::map<std::type_index, std::function<std::unique_ptr<Form>()>> makers_;
+    // By hash: where a class is of one file only, not every library keeps to one order of types.
+    std::unordered_map<std::type_index, std::function<std::unique_ptr<Form>()>> makers_;
     std::vector<std::unique_ptr<Entry>> entries_;
     std::vector<std::unique_ptr<Form>> unloaded_;
     int depth_ = 0;
