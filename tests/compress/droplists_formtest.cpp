@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSysInfo>
 #include <QTest>
+#include <QUrl>
 
 #include "compress/comp.h"
 #include "compress/comp2.h"
@@ -35,6 +36,10 @@ class DropForms : public test::FormsTest {
     HostPath file(const std::string& gamePath, const std::string& bytes = "12") {
         disk_.write(gamePath, bytes);
         return disk_.at(gamePath);
+    }
+    // What stands for a file behind the machine in an address.
+    static QByteArray addressPath(const HostPath& path) {
+        return QUrl::fromLocalFile(QString::fromStdString(path.string())).path().toUtf8();
     }
     template <class T>
     T& shown() {
@@ -123,7 +128,7 @@ TEST_F(DropForms, ANameThatIsNoUtf8ArrivesAsItIs) {
 
 TEST_F(DropForms, AnAddressThatNamesThisMachineIsAFileOfIt) {
     comp& form = shown<comp>();
-    const QByteArray path = QByteArray::fromStdString(file(R"(C:\a.unr)").string());
+    const QByteArray path = addressPath(file(R"(C:\a.unr)"));
     for (const QByteArray& machine :
          {QByteArray("localhost"), QSysInfo::machineHostName().toUtf8()})
         dropAddresses(list(form), "file://" + machine + path + "\r\n");
@@ -161,7 +166,7 @@ TEST_F(DropForms, TheEffectIsLeftAsItCameUnlessItIsAMove) {
 
 TEST_F(DropForms, OfADropThatMixesFilesAndTheWebOnlyTheFilesAreTaken) {
     comp& form = shown<comp>();
-    const QByteArray path = QByteArray::fromStdString(file(R"(C:\a.unr)").string());
+    const QByteArray path = addressPath(file(R"(C:\a.unr)"));
     dropAddresses(list(form), "https://example.org/b.unr\r\nfile://" + path +
                                   "\r\nhttps://example.org/c.unr\r\n");
     EXPECT_THAT(rowsOf(form.dropped()), ElementsAre(R"(a.unr|C:\|2)"));
