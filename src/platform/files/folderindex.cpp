@@ -47,6 +47,7 @@ constexpr std::int64_t coarseTick = 2 * second + fineTick;
 // Questions between two changes after which it pays to hold a folder. That keeps a disk from being
 // unplugged, too.
 constexpr int often = 100;
+// How long a way once gone is taken for the same, and amid many questions any look for the present.
 constexpr std::chrono::milliseconds trust{20};
 
 std::int64_t tickOf(const FolderStamp& stamp) {
