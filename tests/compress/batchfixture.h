@@ -4,6 +4,12 @@
 
 namespace tessaro::test {
 
+/// What is told of a file that is not there after its step.
+inline Message missing(const std::string& file) {
+    return {"Error moving " + file + " to destination folder: C:\\Out", "File Error", Buttons::Ok,
+            Icon::Stop};
+}
+
 /// A batch of either kind, on a system that is not Windows 98, with what stands around it.
 template <class Batch>
 class BatchTest : public ::testing::Test {

@@ -9,20 +9,16 @@ namespace {
 
 using test::destination;
 using test::errorOf;
+using test::missing;
 using test::Packer;
 using test::rowsOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-const Message closingQuestion{
+const Message compressedQuestion{
     "File Batch Compression Complete.\nDo you wish to close UT File Compressor?",
     "Compression Completed", Buttons::YesNo, Icon::None};
-
-Message missing(const std::string& file) {
-    return {"Error moving " + file + " to destination folder: C:\\Out", "File Error", Buttons::Ok,
-            Icon::Stop};
-}
 
 class CompressBatchTest : public test::BatchTest<CompressBatch> {
   protected:
@@ -89,7 +85,7 @@ TEST_F(CompressBatchTest, ShowsItsPositionAfterEachFileAndAsksInTheEnd) {
     list({"a.unr", "b.unr"});
     run(Answer::No);
     EXPECT_THAT(form_.seen, ElementsAre("running", "progress 1", "progress 2", "idle"));
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(compressedQuestion));
 }
 
 TEST_F(CompressBatchTest, OnYesTheToolCloses) {
@@ -157,7 +153,7 @@ TEST_F(CompressBatchTest, InAnotherSpellingOfTheSourcesFolderALaterResultIsLost)
     disk_.write(R"(C:\Maps\a.unr.uz)", "old");
     run();
     // Nobody hears of the refused copy, and what is deleted then is the only one there is.
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(compressedQuestion));
     EXPECT_THAT(disk_.names(R"(C:\Maps)"), ElementsAre("a.unr", "a.unr.uz", "b.unr"));
     EXPECT_THAT(rowsOf(batch_.ListView2),
                 ElementsAre(R"(C:\MAPS\a.unr.uz|3)", R"(C:\MAPS\b.unr.uz)"));
@@ -204,7 +200,8 @@ TEST_F(CompressBatchTest, AFailedToolIsReportedByNameAndTheBatchGoesOn) {
     packer_.failing = {R"(C:\Maps\b.unr)"};
     world_.dialogs.answer(Answer::Ok);
     run();
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(missing(R"(C:\Maps\b.unr)"), closingQuestion));
+    EXPECT_THAT(world_.dialogs.messages,
+                ElementsAre(missing(R"(C:\Maps\b.unr)"), compressedQuestion));
     EXPECT_THAT(rowsOf(batch_.ListView2), ElementsAre(R"(C:\Out\a.unr.uz|11)", R"(C:\Out\b.unr.uz)",
                                                       R"(C:\Out\c.unr.uz|11)"));
     EXPECT_THAT(disk_.names(destination), ElementsAre("a.unr.uz", "c.unr.uz"));
@@ -237,7 +234,7 @@ TEST_F(CompressBatchTest, ADestinationThatVanishesLeavesTheResultsBesideTheirSou
         std::filesystem::remove_all(disk_.at(destination));
     };
     run();
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(compressedQuestion));
     EXPECT_EQ(disk_.read(R"(C:\Maps\b.unr.uz)"), packed("b.unr"));
     EXPECT_THAT(rowsOf(batch_.ListView2),
                 ElementsAre(R"(C:\Out\a.unr.uz|3)", R"(C:\Out\b.unr.uz)"));
@@ -266,7 +263,7 @@ TEST_F(CompressBatchTest, AFullDiskAtALaterFileIsIgnoredAndItsResultIsLost) {
     EXPECT_THAT(disk_.names(R"(C:\Maps)"), ElementsAre("a.unr", "b.unr"));
     EXPECT_THAT(rowsOf(batch_.ListView2),
                 ElementsAre(R"(C:\Out\a.unr.uz|11)", R"(C:\Out\b.unr.uz)"));
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(compressedQuestion));
 }
 
 TEST_F(CompressBatchTest, ADestinationThatCannotBeWrittenIsFatalAtTheFirstFile) {

@@ -9,21 +9,17 @@ namespace {
 
 using test::destination;
 using test::errorOf;
+using test::missing;
+using test::packerFolder;
 using test::rowsOf;
-using test::systemFolder;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-Message closingQuestion(int found) {
+Message decompressedQuestion(int found) {
     return {"Batch Decompression Complete.\n" + std::to_string(found) +
                 " existing file(s) found.\nDo you wish to close UT File Decompressor?",
             "Decompression Completed", Buttons::YesNo, Icon::None};
-}
-
-Message missing(const std::string& name) {
-    return {"Error moving " + name + " to destination folder: C:\\Out", "File Error", Buttons::Ok,
-            Icon::Stop};
 }
 
 // Loses a file when a folder is looked at, once the file is there.
@@ -80,7 +76,7 @@ TEST_F(DecompressBatchTest, MovesTheResultOutOfTheSystemFolder) {
         packer_.commandLines(),
         ElementsAre(R"(C:\UnrealTournament\System\ucc.exe decompress "C:\Packed\DM-A b.unr.uz")"));
     EXPECT_EQ(disk_.read(R"(C:\Out\DM-A b.unr)"), "DM-A b.unr.uz");
-    EXPECT_THAT(disk_.names(systemFolder), IsEmpty());
+    EXPECT_THAT(disk_.names(packerFolder), IsEmpty());
     EXPECT_THAT(disk_.names(R"(C:\Packed)"), ElementsAre("DM-A b.unr.uz"));
     EXPECT_THAT(rowsOf(batch_.ListView2), ElementsAre(R"(C:\Out\DM-A b.unr|13)"));
 }
@@ -101,7 +97,7 @@ TEST_F(DecompressBatchTest, StartsItsBarAnewAndAsksInTheEnd) {
     run(Answer::No);
     EXPECT_THAT(form_.seen,
                 ElementsAre("progress 0", "running", "progress 1", "progress 2", "idle"));
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion(0)));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(decompressedQuestion(0)));
 }
 
 TEST_F(DecompressBatchTest, OnYesTheToolCloses) {
@@ -118,7 +114,7 @@ TEST_F(DecompressBatchTest, ExistingFilesAreCountedAndKeptUnlessTheUserSaysOther
     EXPECT_EQ(disk_.read(R"(C:\Out\a.unr)"), "old");
     EXPECT_THAT(form_.seen,
                 ElementsAre("progress 0", "running", "existing 1", "progress 1", "idle"));
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion(1)));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(decompressedQuestion(1)));
     EXPECT_THAT(rowsOf(batch_.ListView2), IsEmpty());
 }
 
@@ -128,7 +124,7 @@ TEST_F(DecompressBatchTest, AReplacedFileIsStillCounted) {
     batch_.overwriteExisting = true;
     run();
     EXPECT_EQ(disk_.read(R"(C:\Out\a.unr)"), "a.unr.uz");
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion(1)));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(decompressedQuestion(1)));
     EXPECT_THAT(rowsOf(batch_.ListView2), ElementsAre(R"(C:\Out\a.unr|8)"));
 }
 
@@ -137,8 +133,9 @@ TEST_F(DecompressBatchTest, LaterRunsCountAnewAndListAnew) {
     run();
     run();
     run();
-    EXPECT_THAT(world_.dialogs.messages,
-                ElementsAre(closingQuestion(0), closingQuestion(1), closingQuestion(1)));
+    EXPECT_THAT(
+        world_.dialogs.messages,
+        ElementsAre(decompressedQuestion(0), decompressedQuestion(1), decompressedQuestion(1)));
     EXPECT_THAT(rowsOf(batch_.ListView2), IsEmpty());
 }
 
@@ -147,15 +144,15 @@ TEST_F(DecompressBatchTest, AnUpperCaseExtensionMakesItsResultUnfindable) {
     packer_.fillBatch(batch_.ListView1, {R"(C:\Packed\Map.UZ)"});
     world_.dialogs.answer(Answer::Ok);
     run();
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(missing("Map.UZ"), closingQuestion(0)));
-    EXPECT_TRUE(disk_.exists(systemFolder + std::string(R"(\Map)")));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(missing("Map.UZ"), decompressedQuestion(0)));
+    EXPECT_TRUE(disk_.exists(packerFolder + std::string(R"(\Map)")));
 }
 
 TEST_F(DecompressBatchTest, AUzInTheMiddleMakesItsResultUnfindable) {
     list({"a.uzb.u.uz"});
     world_.dialogs.answer(Answer::Ok);
     run();
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(missing("a"), closingQuestion(0)));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(missing("a"), decompressedQuestion(0)));
 }
 
 TEST_F(DecompressBatchTest, AFailedToolIsReportedByNameAndTheBarMoves) {
@@ -163,7 +160,7 @@ TEST_F(DecompressBatchTest, AFailedToolIsReportedByNameAndTheBarMoves) {
     packer_.failing = {R"(C:\Packed\a.unr.uz)"};
     world_.dialogs.answer(Answer::Ok);
     run();
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(missing("a.unr"), closingQuestion(0)));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(missing("a.unr"), decompressedQuestion(0)));
     EXPECT_THAT(form_.seen, ElementsAre("progress 0", "running", "progress 1", "idle"));
 }
 
@@ -196,15 +193,15 @@ TEST_F(DecompressBatchTest, AVanishedSourceIsPassedOverAndTheBarStays) {
     run();
     EXPECT_THAT(world_.processes.runs, SizeIs(1));
     EXPECT_THAT(form_.seen, ElementsAre("progress 0", "running", "progress 1", "idle"));
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion(0)));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(decompressedQuestion(0)));
 }
 
 TEST_F(DecompressBatchTest, ADestinationThatHasGoneLeavesTheResultInTheSystemFolder) {
     list({"a.unr.uz"});
     std::filesystem::remove_all(disk_.at(destination));
     run();
-    EXPECT_THAT(world_.dialogs.messages, ElementsAre(closingQuestion(0)));
-    EXPECT_THAT(disk_.names(systemFolder), ElementsAre("a.unr"));
+    EXPECT_THAT(world_.dialogs.messages, ElementsAre(decompressedQuestion(0)));
+    EXPECT_THAT(disk_.names(packerFolder), ElementsAre("a.unr"));
 }
 
 TEST_F(DecompressBatchTest, AResultThatVanishesBeforeItsMoveIsReported) {
@@ -224,22 +221,22 @@ TEST_F(DecompressBatchTest, AResultThatVanishesBeforeItsMoveIsReported) {
     EXPECT_THAT(world_.dialogs.messages,
                 ElementsAre(Message{"File Decompression Error!", "File Copy Error", Buttons::Ok,
                                     Icon::Stop},
-                            closingQuestion(0)));
+                            decompressedQuestion(0)));
 }
 
 TEST_F(DecompressBatchTest, APackageOfTheGamesWithTheSameNameIsLost) {
     list({"Botpack.u.uz"});
     disk_.write(R"(C:\UnrealTournament\System\Botpack.u)", "the game's own");
     run();
-    EXPECT_THAT(disk_.names(systemFolder), IsEmpty());
+    EXPECT_THAT(disk_.names(packerFolder), IsEmpty());
     EXPECT_EQ(disk_.read(R"(C:\Out\Botpack.u)"), "Botpack.u.uz");
 }
 
 TEST_F(DecompressBatchTest, TheSystemFolderAsDestinationIsAFailureThatKeepsTheResult) {
-    world_.program.DecompressDest = systemFolder;
+    world_.program.DecompressDest = packerFolder;
     list({"a.unr.uz"});
     EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::PermissionDenied);
-    EXPECT_THAT(disk_.names(systemFolder), ElementsAre("a.unr"));
+    EXPECT_THAT(disk_.names(packerFolder), ElementsAre("a.unr"));
 }
 
 TEST_F(DecompressBatchTest, ADrivesRootAsDestinationGivesRowsWithTwoBackslashes) {
@@ -270,7 +267,7 @@ TEST_F(DecompressBatchTest, AFullDiskIsAFailureAndLosesNothing) {
     list({"a.unr.uz"});
     disk_.host.setDiskSpace(3);
     EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::DiskFull);
-    EXPECT_THAT(disk_.names(systemFolder), ElementsAre("a.unr"));
+    EXPECT_THAT(disk_.names(packerFolder), ElementsAre("a.unr"));
     EXPECT_THAT(disk_.names(destination), IsEmpty());
 }
 
@@ -281,7 +278,7 @@ TEST_F(DecompressBatchTest, ADestinationThatCannotBeWrittenIsAFailureAtALaterFil
     disk_.host.protect("b.unr");
     EXPECT_EQ(errorOf([&] { batch_.run(); }), errors::PathFileAccess);
     EXPECT_EQ(disk_.read(R"(C:\Out\b.unr)"), "old");
-    EXPECT_THAT(disk_.names(systemFolder), ElementsAre("b.unr"));
+    EXPECT_THAT(disk_.names(packerFolder), ElementsAre("b.unr"));
 }
 
 TEST_F(DecompressBatchTest, AResultThatCannotBeDeletedIsAFailure) {

@@ -302,7 +302,7 @@ class DropFormsWithMainWindow : public DropForms {
         for (const char* folder : {"Sounds", "Maps", "Textures", "Cache"})
             disk_.makeFolder(std::string(R"(C:\UnrealTournament\)") + folder);
         for (const char* ini : {"UnrealTournament.ini", "User.ini"})
-            disk_.write(test::systemFolder + std::string("\\") + ini, "[Engine.Engine]\r\n");
+            disk_.write(test::packerFolder + std::string("\\") + ini, "[Engine.Engine]\r\n");
         disk_.write(R"(C:\Tessaro\vornx.ini)", "[Misc]\r\nShowSplash=0\r\nSounds=0\r\n");
         forms_.show<MainFrm>();
     }

@@ -12,7 +12,7 @@
 
 namespace tessaro::test {
 
-inline constexpr char systemFolder[] = R"(C:\UnrealTournament\System)";
+inline constexpr char packerFolder[] = R"(C:\UnrealTournament\System)";
 inline constexpr char destination[] = R"(C:\Out)";
 
 inline const SystemVersion windows98{4, 10, 2222, 1, "", ""};
@@ -24,10 +24,10 @@ inline const SystemVersion anotherSystem{6, 1, 0, 0, "", "Linux"};
 class Packer {
   public:
     explicit Packer(TestProgram& test) : test_(test) {
-        test.program.gamePaths.UTSysPath = systemFolder;
+        test.program.gamePaths.UTSysPath = packerFolder;
         test.program.CompressDest = destination;
         test.program.DecompressDest = destination;
-        test.world.makeFolder(systemFolder);
+        test.world.makeFolder(packerFolder);
         test.world.makeFolder(destination);
         test.processes.child = [this](const std::string& line) { pack(line); };
     }
@@ -67,7 +67,7 @@ class Packer {
             test_.world.write(file + ".uz", compressed(name, bytes));
         } else {
             const std::size_t end = bytes.find('\n');
-            test_.world.write(systemFolder + ("\\" + bytes.substr(0, end)), bytes.substr(end + 1));
+            test_.world.write(packerFolder + ("\\" + bytes.substr(0, end)), bytes.substr(end + 1));
         }
     }
 

@@ -15,7 +15,7 @@ namespace tessaro {
 namespace {
 
 using test::destination;
-using test::systemFolder;
+using test::packerFolder;
 using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -115,7 +115,7 @@ TEST_F(SlowRealUcc, TwoHundredFilesGoThereAndBack) {
     EXPECT_EQ(disk_.names(R"(C:\Back)"), names);
     for (const std::string& name : names) EXPECT_EQ(disk_.read("C:\\Back\\" + name), bytesOf(name));
     EXPECT_THAT(disk_.names(destination), SizeIs(200));
-    EXPECT_THAT(disk_.names(systemFolder), ElementsAre("UCC.exe", "UnrealTournament.exe"));
+    EXPECT_THAT(disk_.names(packerFolder), ElementsAre("UCC.exe", "UnrealTournament.exe"));
     EXPECT_EQ(decompression_.ListView2.count(), 200u);
 }
 
@@ -226,7 +226,7 @@ TEST_F(RealUcc, ABatchWaitsForASlowPackerAndTheScreenIsServedMeanwhile) {
 TEST_F(RealUcc, AMissingPackerIsReportedForEachFile) {
     pack({"a.unr", "b.unr"});
     listPacked({"a.unr", "b.unr"});
-    std::filesystem::remove(disk_.at(systemFolder) / "UCC.exe");
+    std::filesystem::remove(disk_.at(packerFolder) / "UCC.exe");
     world_.dialogs.answer(Answer::Ok);
     world_.dialogs.answer(Answer::Ok);
     run(decompression_);
@@ -248,7 +248,7 @@ TEST_F(RealUcc, ARenamedFileIsUnpackedUnderItsStoredNameAndNotFound) {
     world_.dialogs.answer(Answer::Ok);
     run(decompression_);
     EXPECT_THAT(world_.dialogs.messages, AllOf(SizeIs(2), reports("other.unr")));
-    EXPECT_EQ(disk_.read(systemFolder + std::string(R"(\a.unr)")), bytesOf("a.unr"));
+    EXPECT_EQ(disk_.read(packerFolder + std::string(R"(\a.unr)")), bytesOf("a.unr"));
 }
 
 }  // namespace

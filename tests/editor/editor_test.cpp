@@ -73,7 +73,7 @@ TEST_F(EditorTest, TheTextOfAFailedLoadStillKnowsItsLineEnds) {
 TEST_F(EditorTest, LoadFileAsksForAnIniFileInTheSystemFolder) {
     loadMine();
     EXPECT_EQ(dialogs_.openPickers,
-              (std::vector<FilePicker>{{"", "All UT .ini Files(*.ini)|*.ini|", systemFolder, ""}}));
+              (std::vector<FilePicker>{{"", "All UT .ini Files(*.ini)|*.ini|", iniFolder, ""}}));
     EXPECT_EQ(editor_.openedini(), mine);
     EXPECT_EQ(view_.title, "my.ini");
     EXPECT_EQ(editor_.CD1(), mine);

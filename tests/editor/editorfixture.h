@@ -30,9 +30,9 @@ class RecordingEditorView : public EditorView {
 
 inline const Message saveQuestion{"Do you wish to save changes", "File Not Saved.",
                                   Buttons::YesNoCancel, Icon::Question};
-inline const std::string systemFolder = "C:\\UT\\System";
-inline const std::string utIni = systemFolder + "\\unrealtournament.ini";
-inline const std::string userIni = systemFolder + "\\user.ini";
+inline const std::string iniFolder = "C:\\UT\\System";
+inline const std::string utIni = iniFolder + "\\unrealtournament.ini";
+inline const std::string userIni = iniFolder + "\\user.ini";
 inline const std::string cacheIni = "C:\\UT\\Cache\\cache.ini";
 inline const std::string mine = "C:\\Mine\\my.ini";
 
@@ -40,7 +40,7 @@ inline const std::string mine = "C:\\Mine\\my.ini";
 class EditorTest : public testing::Test {
   protected:
     EditorTest() {
-        program_.gamePaths = {"C:\\UT", "C:\\UT\\Cache", "C:\\UT\\Maps", systemFolder};
+        program_.gamePaths = {"C:\\UT", "C:\\UT\\Cache", "C:\\UT\\Maps", iniFolder};
         disk_.write(utIni, "[URL]\r\nName=Me\r\n");
         disk_.write(userIni, "[DefaultPlayer]\r\n");
         disk_.write(mine, "[Mine]\n");

@@ -5,7 +5,7 @@
 namespace tessaro::test {
 namespace {
 
-const FilePicker saveAs{"Save File As", "All File Types(*.*)|*.*|", systemFolder, "Untitled.ini"};
+const FilePicker saveAs{"Save File As", "All File Types(*.*)|*.*|", iniFolder, "Untitled.ini"};
 
 TEST_F(EditorTest, SaveOfNothingSaysSo) {
     dialogs_.answer(Answer::Ok);
@@ -213,7 +213,7 @@ TEST_F(EditorTest, SaveAsIgnoresARefusalAndRemembersTheFile) {
 }
 
 TEST_F(EditorTest, AVanishedSystemFolderOpensThePickersAllTheSame) {
-    disk_.host.vanish(disk_.at(systemFolder));
+    disk_.host.vanish(disk_.at(iniFolder));
     type(u"typed");
     dialogs_.pickFile("C:\\Mine\\new.ini");
     editor_.save();

@@ -9,8 +9,6 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const Message offer{"Save Info on Current ?", "Save New User?", Buttons::YesNo, Icon::Question};
-
 class Archive : public ArchiveFixture {
   protected:
     std::string nextName() {

@@ -13,6 +13,10 @@
 
 namespace tessaro::test {
 
+/// Asked before another player takes the place of one who is in no archive.
+inline const Message offer{"Save Info on Current ?", "Save New User?", Buttons::YesNo,
+                           Icon::Question};
+
 /// The User Manager without a window, and what was done to it, in order.
 class RecordingUsers : public UsersView {
   public:

@@ -14,7 +14,6 @@ using Started = RecordingProcesses::Run;
 
 const Message saved{"The Current User has been saved", "User Exists", Buttons::Ok,
                     Icon::Information};
-const Message offer{"Save Info on Current ?", "Save New User?", Buttons::YesNo, Icon::Question};
 const Message already{"That User Is already Set as current.", "Cannot Set User", Buttons::Ok,
                       Icon::Information};
 const Message noneSelected{"No User Selected. Highlight any saved user name and try again",

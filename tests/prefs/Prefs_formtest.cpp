@@ -8,11 +8,6 @@
 namespace tessaro::test {
 namespace {
 
-const Message saveQuestion{"The Current Settings have not yet been saved, Do you wish to save?",
-                           "Save Settings?", Buttons::YesNoCancel, Icon::None};
-const Message closeQuestion{"These settings are not valid. Close Tessaro?", "Preferences",
-                            Buttons::YesNo, Icon::Question};
-
 class PrefsForm : public PrefsFormFixture {
   protected:
     // Whether closing asks to save. The dialog stays open if so.
@@ -21,11 +16,11 @@ class PrefsForm : public PrefsFormFixture {
         dialogs().answer(Answer::Cancel);
         click("CommandX");
         if (dialogs().messages.size() > before) {
-            EXPECT_EQ(dialogs().messages.back(), saveQuestion);
+            EXPECT_EQ(dialogs().messages.back(), unsavedQuestion);
             return true;
         }
         // The answer that nobody asked for.
-        dialogs().message(saveQuestion);
+        dialogs().message(unsavedQuestion);
         dialogs().messages.pop_back();
         return false;
     }
@@ -93,7 +88,7 @@ TEST_F(PrefsForm, AClickOnCancelTakesTheFocusAndSoMarks) {
     click("Check1");
     dialogs().answer(Answer::Cancel);
     click("Command5");
-    EXPECT_EQ(dialogs().messages, (std::vector<Message>{saveQuestion}));
+    EXPECT_EQ(dialogs().messages, (std::vector<Message>{unsavedQuestion}));
 }
 
 TEST_F(PrefsForm, LeavingForAnotherWindowMarksNothing) {
@@ -111,7 +106,7 @@ TEST_F(PrefsForm, EscapeIsCancel) {
     click("Check3");
     dialogs().answer(Answer::No);
     QTest::keyClick(&prefs, Qt::Key_Escape);
-    EXPECT_EQ(dialogs().messages, (std::vector<Message>{saveQuestion}));
+    EXPECT_EQ(dialogs().messages, (std::vector<Message>{unsavedQuestion}));
     EXPECT_EQ(loaded(), nullptr);
     EXPECT_EQ(program_.settings.ShowSplash, "0");
 }
@@ -120,7 +115,7 @@ TEST_F(PrefsForm, TheDesktopsCloseIsCancelToo) {
     Prefs& prefs = openWithoutGame();
     dialogs().answer(Answer::No);
     EXPECT_FALSE(prefs.close());
-    EXPECT_EQ(dialogs().messages.back(), closeQuestion);
+    EXPECT_EQ(dialogs().messages.back(), invalidQuestion);
     EXPECT_TRUE(prefs.isVisible());
 }
 

@@ -14,6 +14,12 @@
 
 namespace tessaro::test {
 
+inline const Message unsavedQuestion{
+    "The Current Settings have not yet been saved, Do you wish to save?", "Save Settings?",
+    Buttons::YesNoCancel, Icon::None};
+inline const Message invalidQuestion{"These settings are not valid. Close Tessaro?", "Preferences",
+                                     Buttons::YesNo, Icon::Question};
+
 /// The real dialog, on settings that name the game in `C:\UT`.
 class PrefsFormFixture : public FormsTest {
   protected:

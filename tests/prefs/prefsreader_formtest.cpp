@@ -9,9 +9,6 @@
 namespace tessaro::test {
 namespace {
 
-const Message saveQuestion{"The Current Settings have not yet been saved, Do you wish to save?",
-                           "Save Settings?", Buttons::YesNoCancel, Icon::None};
-
 class PrefsForReaders : public PrefsFormFixture {
   protected:
     void press(const char* name) {
@@ -24,7 +21,7 @@ class PrefsForReaders : public PrefsFormFixture {
         dialogs().messages.clear();
         dialogs().answer(Answer::Cancel);
         press("Command5");
-        return dialogs().messages == std::vector<Message>{saveQuestion};
+        return dialogs().messages == std::vector<Message>{unsavedQuestion};
     }
 };
 

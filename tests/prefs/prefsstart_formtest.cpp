@@ -13,9 +13,6 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-const Message closeQuestion{"These settings are not valid. Close Tessaro?", "Preferences",
-                            Buttons::YesNo, Icon::Question};
-
 class PrefsStart : public PrefsFormFixture {
   protected:
     void start() {
@@ -129,7 +126,7 @@ TEST_F(PrefsStart, TheForcedDialogCanEndTheWholeProgram) {
     const auto leave = whenPrefsComes([this] { click("CommandX"); });
     start();
     EXPECT_TRUE(leave.acted());
-    EXPECT_EQ(dialogs().messages.back(), closeQuestion);
+    EXPECT_EQ(dialogs().messages.back(), invalidQuestion);
     EXPECT_TRUE(forms_.ended());
     EXPECT_TRUE(forms_.empty());
     EXPECT_EQ(sounds(), (Names{"nasty"}));

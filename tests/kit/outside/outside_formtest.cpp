@@ -15,6 +15,7 @@
 #include "kit/outside/qtevents.h"
 #include "kit/outside/qtsounds.h"
 #include "support/forms/formsfixture.h"
+#include "support/forms/qtmessages.h"
 
 namespace tessaro {
 namespace {
@@ -184,18 +185,12 @@ TEST(RealSounds, StartingIsHarmlessWhetherOrNotThereIsADevice) {
     test::serveEvents();
 }
 
-QStringList* saidByQt = nullptr;
-
 TEST(RealSounds, WithoutADeviceNothingIsSaidOnTheTerminal) {
-    QStringList said;
-    saidByQt = &said;
-    const auto before = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& text) { saidByQt->append(text); });
+    const test::QtMessages messages;
     QtSounds sounds;
     const bool silent = QTest::qWaitFor([&] { return sounds.start("roger") == 0; }, 2000);
-    qInstallMessageHandler(before);
     if (!silent) GTEST_SKIP() << "There is a sound device here.";
-    EXPECT_EQ(said.filter(QStringLiteral("Audio")), QStringList());
+    EXPECT_EQ(messages.said().filter(QStringLiteral("Audio")), QStringList());
 }
 
 TEST(Twips, FifteenMakeAPixel) {

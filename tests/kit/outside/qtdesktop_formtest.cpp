@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "kit/outside/qttray.h"
+#include "support/forms/qtmessages.h"
 
 namespace tessaro {
 namespace {
@@ -35,17 +36,11 @@ TEST(TheDesktop, OpensAnAddressInTheUsersBrowser) {
               QStringLiteral("https://web.archive.org/web/2002/http://www.planetunreal.com/"));
 }
 
-QStringList* saidByQt = nullptr;
-
 TEST(TheDesktop, SaysNothingWhereThereIsNoBrowser) {
-    QStringList said;
-    saidByQt = &said;
-    const auto before = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& text) { saidByQt->append(text); });
+    const test::QtMessages messages;
     QtDesktop().openAddress("no-such-scheme://nowhere");
     qWarning("heard");
-    qInstallMessageHandler(before);
-    EXPECT_EQ(said, QStringList{"heard"});
+    EXPECT_EQ(messages.said(), QStringList{"heard"});
 }
 
 // A hook with a tray that shows its picture.

@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-const std::string newer(1000, 'n');
+const std::string written(1000, 'n');
 
 // Keeps its copies in a folder of the test, and shows what lies there while a file is written over.
 class WatchedHost : public FailingHost {
@@ -51,7 +51,7 @@ struct TwoNames : TestWorld {
     }
     HostPath file() const { return at("C:\\s\\file.ini"); }
     int replaceError() {
-        return errorOf([&] { replaceFile(watched, file(), newer); });
+        return errorOf([&] { replaceFile(watched, file(), written); });
     }
     void expectEverywhere(const std::string& bytes) const {
         EXPECT_EQ(read("C:\\s\\file.ini"), bytes);
@@ -66,16 +66,16 @@ struct TwoNames : TestWorld {
 TEST(WriteOver, AFileWithTwoNamesKeepsBoth) {
     TwoNames world;
     EXPECT_EQ(world.replaceError(), 0);
-    world.expectEverywhere(newer);
+    world.expectEverywhere(written);
     EXPECT_THAT(world.watched.kept, ElementsAre("old"));
     replaceFile(world.watched, world.file(), "short");
     world.expectEverywhere("short");
     changeFile(world.watched, world.file(),
                [](std::string_view bytes) { return std::optional(std::string(bytes) + "er"); });
     world.expectEverywhere("shorter");
-    world.write("C:\\from", newer);
+    world.write("C:\\from", written);
     replaceByCopy(world.watched, world.at("C:\\from"), world.file());
-    world.expectEverywhere(newer);
+    world.expectEverywhere(written);
 }
 
 TEST(WriteOver, AFailureOnTheWayPutsTheOldBytesBack) {
@@ -106,7 +106,7 @@ TEST(WriteOver, OldBytesThatCannotBePutBackStayInTheCopyAndTheErrorTellsWhere) {
     world.watched.failures = 2;
     std::string told;
     try {
-        replaceFile(world.watched, world.file(), newer);
+        replaceFile(world.watched, world.file(), written);
     } catch (const RunTimeError& error) {
         EXPECT_EQ(error.number(), errors::DeviceIo);
         told = error.detail();
@@ -124,7 +124,7 @@ TEST(WriteOver, WhereNothingCanBeMadeBesideTheCopyLiesElsewhere) {
         fs::remove(world.at("C:\\other\\name"));
         world.watched.refuse(Call::Create, number, "/s/");
         EXPECT_EQ(world.replaceError(), 0);
-        EXPECT_EQ(world.read("C:\\s\\file.ini"), newer);
+        EXPECT_EQ(world.read("C:\\s\\file.ini"), written);
         EXPECT_THAT(world.watched.kept, ElementsAre("old"));
         EXPECT_THAT(world.names("C:\\kept"), IsEmpty());
     }
@@ -135,7 +135,7 @@ TEST(WriteOver, WhereTheRenameIsForbiddenTheFileIsWrittenOver) {
     fs::remove(world.at("C:\\other\\name"));
     world.watched.refuse(Call::Rename, errors::PermissionDenied);
     EXPECT_EQ(world.replaceError(), 0);
-    EXPECT_EQ(world.read("C:\\s\\file.ini"), newer);
+    EXPECT_EQ(world.read("C:\\s\\file.ini"), written);
     EXPECT_THAT(world.names("C:\\s"), ElementsAre("file.ini"));
     EXPECT_THAT(world.watched.kept, ElementsAre("old"));
 }

@@ -27,7 +27,7 @@ using test::Call;
 using test::ForkedChild;
 using test::TestWorld;
 
-constexpr std::string_view path = "C:\\game\\user.ini";
+constexpr std::string_view userIni = "C:\\game\\user.ini";
 
 // Changes the file past the program, in all ways there are, and knows what it holds without
 // opening it, which would be noticed.
@@ -39,7 +39,7 @@ class OtherProgram {
 
     void act(std::size_t number) {
         const std::function<void()> acts[] = {
-            [this] { pokeInPlace(world_.at(path)); },
+            [this] { pokeInPlace(world_.at(userIni)); },
             [this] { pokeInPlace(twin()); },
             [this] { pokeMapped(); },
             [this] { mapped_.reset(); },
@@ -67,7 +67,7 @@ class OtherProgram {
     // A second name of the same file.
     HostPath twin() const {
         fs::remove(beside("twin"));
-        fs::create_hard_link(fs::canonical(world_.at(path)), beside("twin"));
+        fs::create_hard_link(fs::canonical(world_.at(userIni)), beside("twin"));
         return beside("twin");
     }
     void pokeInPlace(const HostPath& file) {
@@ -83,7 +83,7 @@ class OtherProgram {
     // The first time it maps the file, and from then on only changes memory.
     void pokeMapped() {
         if (!mapped_) {
-            const int opened = ::open(world_.at(path).c_str(), O_RDWR);
+            const int opened = ::open(world_.at(userIni).c_str(), O_RDWR);
             void* memory = ::mmap(nullptr, 8, PROT_READ | PROT_WRITE, MAP_SHARED, opened, 0);
             ::close(opened);
             ASSERT_NE(memory, MAP_FAILED);
@@ -94,16 +94,16 @@ class OtherProgram {
     }
     void rewriteInPlace() {
         mapped_.reset();
-        TestWorld::writeHost(world_.at(path), content_ = fresh(++age_));
+        TestWorld::writeHost(world_.at(userIni), content_ = fresh(++age_));
     }
     void cut() {
         mapped_.reset();
         content_.resize(9);
-        fs::resize_file(world_.at(path), 9);
+        fs::resize_file(world_.at(userIni), 9);
     }
     void append() {
         const std::string more = "\nc=" + std::to_string(++age_) + "\n";
-        const int opened = ::open(world_.at(path).c_str(), O_WRONLY | O_APPEND);
+        const int opened = ::open(world_.at(userIni).c_str(), O_WRONLY | O_APPEND);
         ASSERT_EQ(::write(opened, more.data(), more.size()), static_cast<ssize_t>(more.size()));
         ::close(opened);
         content_ += more;
@@ -111,27 +111,27 @@ class OtherProgram {
     void replace(const std::string& text) {
         mapped_.reset();
         TestWorld::writeHost(beside("new"), content_ = text);
-        fs::create_directories(world_.at(path).parent_path());
-        fs::rename(beside("new"), world_.at(path));
+        fs::create_directories(world_.at(userIni).parent_path());
+        fs::rename(beside("new"), world_.at(userIni));
     }
     void replaceFolder(const std::string& text) {
         mapped_.reset();
         fs::remove_all(beside("old"));
         TestWorld::writeHost(beside("folder") / "user.ini", content_ = text);
-        fs::rename(world_.at(path).parent_path(), beside("old"));
-        fs::rename(beside("folder"), world_.at(path).parent_path());
+        fs::rename(world_.at(userIni).parent_path(), beside("old"));
+        fs::rename(beside("folder"), world_.at(userIni).parent_path());
     }
     void writeThroughLink() {
         mapped_.reset();
         TestWorld::writeHost(beside("linked"), content_ = fresh(++age_));
-        fs::remove(world_.at(path));
-        fs::create_symlink("../linked", world_.at(path));
+        fs::remove(world_.at(userIni));
+        fs::create_symlink("../linked", world_.at(userIni));
     }
     void throughOurOwnCall() {
         mapped_.reset();
         const std::string value = std::to_string(++age_);
-        ASSERT_TRUE(world_.profile.writePrivateProfileString("s", "d", value, path));
-        content_ = TestWorld::readHost(world_.at(path));
+        ASSERT_TRUE(world_.profile.writePrivateProfileString("s", "d", value, userIni));
+        content_ = TestWorld::readHost(world_.at(userIni));
     }
 
     TestWorld& world_;
@@ -141,8 +141,8 @@ class OtherProgram {
 };
 
 std::string valueNow(TestWorld& world, const std::string& key) {
-    world.files.touch(path);
-    return world.profile.getPrivateProfileString("s", key, "?", 100, path);
+    world.files.touch(userIni);
+    return world.profile.getPrivateProfileString("s", key, "?", 100, userIni);
 }
 
 TEST(ProfileMemory, AnswersAsAFreshReadWhateverHappensInBetween) {
@@ -161,7 +161,7 @@ TEST(ProfileMemory, AnswersAsAFreshReadWhateverHappensInBetween) {
             ++asked;
         }
     }
-    if (!world.host.readWatched(world.at(path)).watch) GTEST_SKIP() << "no watches on this disk";
+    if (!world.host.readWatched(world.at(userIni)).watch) GTEST_SKIP() << "no watches on this disk";
     EXPECT_LT(world.host.count(Call::Read), asked * 9 / 10) << "nothing was remembered";
 }
 
@@ -214,7 +214,7 @@ TEST(ProfileMemory, NoAnswerIsOlderThanAFileThatAnotherProgramReplacesAllTheTime
     const Writer writer([&](int number) {
         const HostPath beside = world.at("C:\\new");
         TestWorld::writeHost(beside, "[s]\nk=" + std::to_string(100'000'000 + number) + "\n");
-        fs::rename(beside, world.at(path));
+        fs::rename(beside, world.at(userIni));
     });
     for (int i = 0; i < questions || writer.written() < fewestWrites; ++i) {
         const int said = writer.written();
@@ -226,10 +226,10 @@ TEST(ProfileMemory, NoAnswerIsOlderThanAFileThatAnotherProgramReplacesAllTheTime
 // One byte, so that no read can meet a number that is half written.
 TEST(ProfileMemory, NoAnswerIsOlderThanAFileThatAnotherProgramWritesInPlaceAllTheTime) {
     TestWorld world;
-    world.write(path, "[s]\nk=A\n");
+    world.write(userIni, "[s]\nk=A\n");
     const auto letter = [](int number) { return static_cast<char>('A' + number % 26); };
     const Writer writer([&](int number) {
-        const int opened = ::open(world.at(path).c_str(), O_WRONLY);
+        const int opened = ::open(world.at(userIni).c_str(), O_WRONLY);
         const char byte = letter(number);
         if (::pwrite(opened, &byte, 1, 6) != 1) std::abort();
         ::close(opened);
