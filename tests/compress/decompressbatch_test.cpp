@@ -254,7 +254,8 @@ TEST_F(DecompressBatchTest, MoreFilesThan16BitsHoldAreAFailureAheadOfTheFirst) {
     EXPECT_THAT(world_.dialogs.messages, IsEmpty());
 }
 
-TEST_F(DecompressBatchTest, APositionPast16BitsIsAFailureAfterTheLastFile) {
+using SlowDecompressBatchTest = DecompressBatchTest;
+TEST_F(SlowDecompressBatchTest, APositionPast16BitsIsAFailureAfterTheLastFile) {
     listRepeatedly(R"(C:\Packed\gone.unr.uz)", 32766);
     packer_.writeUz(R"(C:\Packed\a.unr.uz)", "x");
     disk_.write(R"(C:\Out\a.unr)", "old");

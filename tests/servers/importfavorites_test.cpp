@@ -178,7 +178,8 @@ TEST_F(ImportingFavorites, NothingIsWrittenWhereEveryKeyHasItsValue) {
     EXPECT_EQ(disk_.host.count(Call::Rename), 0);
 }
 
-TEST_F(ImportingFavorites, TenThousandComeInOneGo) {
+using SlowImportingFavorites = ImportingFavorites;
+TEST_F(SlowImportingFavorites, TenThousandComeInOneGo) {
     std::vector<std::string> entries;
     std::vector<std::string> wanted;
     for (int i = 0; i < 10'000; ++i) {

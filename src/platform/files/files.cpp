@@ -27,8 +27,7 @@ std::size_t lastPart(std::string_view path) {
 
 // A name that leads nowhere, or to where one may not look, is passed over.
 bool isWanted(Host& host, const HostPath& path, int wanted) {
-    std::optional<HostStatus> status;
-    attempt([&] { status = host.status(path); });
+    const auto status = visibleStatus(host, path);
     if (!status) return false;
     const int has = (status->folder ? attributes::Directory : 0) |
                     (status->hidden ? attributes::Hidden : 0) |
@@ -46,11 +45,6 @@ void sortNames(std::vector<std::string>& names) {
     std::sort(keyed.begin(), keyed.end());
     std::transform(keyed.begin(), keyed.end(), names.begin(),
                    [](auto& each) { return std::move(each.second); });
-}
-
-bool isFolder(Host& host, const HostPath& path) {
-    const auto status = host.status(path);
-    return status && status->folder;
 }
 
 // A file that is to be read. Raises 53 if it is not there, or 76 if its folder is not.

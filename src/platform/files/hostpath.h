@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "platform/files/host.h"
+#include "platform/runtime/runtimeerror.h"
 
 namespace tessaro {
 
@@ -17,6 +18,23 @@ inline HostPath inFolder(const HostPath& folder, std::string_view name) {
     if (path.back() != HostPath::preferred_separator) path += HostPath::preferred_separator;
     path += hostPath(name).native();
     return path;
+}
+
+/// Raises what `Host::status` raises.
+inline bool isFolder(Host& host, const HostPath& path) {
+    const auto status = host.status(path);
+    return status && status->folder;
+}
+
+/// What is known of a name; nothing also where one may not look.
+inline std::optional<HostStatus> visibleStatus(Host& host, const HostPath& path) {
+    // Not assigned to a variable: GCC 12 takes the failing call to have written it, when optimizing,
+    // and leaves out what it held before.
+    try {
+        return host.status(path);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
 }
 
 }  // namespace tessaro

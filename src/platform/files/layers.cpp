@@ -36,9 +36,8 @@ std::vector<HostPath> foldersOf(Kind kind, const NativeGame& game, std::string_v
     return folders;
 }
 
-bool isFolder(Host& host, const HostPath& path) {
-    std::optional<HostStatus> status;
-    attempt([&] { status = host.status(path); });
+bool isVisibleFolder(Host& host, const HostPath& path) {
+    const auto status = visibleStatus(host, path);
     return status && status->folder;
 }
 
@@ -138,8 +137,8 @@ std::optional<HostPath> LayeredFolder::place() const {
         const Finding ini = findProfile(profiles[0]);
         if (ini.path) return folders_[ini.layer];
     }
-    if (!game_.home.empty() && isFolder(host_, folders_.front())) return folders_.front();
-    return isFolder(host_, own_) ? std::optional(own_) : std::nullopt;
+    if (!game_.home.empty() && isVisibleFolder(host_, folders_.front())) return folders_.front();
+    return isVisibleFolder(host_, own_) ? std::optional(own_) : std::nullopt;
 }
 
 std::size_t LayeredFolder::layerForNew(std::string_view name) const {
@@ -178,7 +177,7 @@ std::optional<HostPath> LayeredFolder::templateOf(std::string_view name) const {
 void LayeredFolder::makeUpper() const {
     if (game_.home.empty()) return;
     for (const HostPath& folder : {game_.home, folders_.front()})
-        if (!isFolder(host_, folder)) attempt([&] { host_.makePrivateFolder(folder); });
+        if (!isVisibleFolder(host_, folder)) attempt([&] { host_.makePrivateFolder(folder); });
 }
 
 LayeredFolder* Layers::in(const HostPath& game, std::string_view name) {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files/hostpath.h"
 #include "platform/posix/home.h"
 #include "platform/posix/wineprefix.h"
 #include "platform/runtime/runtimeerror.h"
@@ -21,11 +22,6 @@ constexpr const char* writtenFolder = ".utpg";
 bool isFile(Host& host, const HostPath& path) {
     const auto status = host.status(path);
     return status && !status->folder;
-}
-
-bool isFolder(Host& host, const HostPath& path) {
-    const auto status = host.status(path);
-    return status && status->folder;
 }
 
 // The one for this machine, else the one that says nothing of machines.
