@@ -8,9 +8,9 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <cmath>
 
 #include "shell/links.h"
+#include "support/forms/contrast.h"
 #include "support/forms/gameforms.h"
 
 namespace tessaro::test {
@@ -139,21 +139,6 @@ TEST_F(HelpForm, ThePlateAloneMovesIt) {
     EXPECT_TRUE(moves());
 }
 
-// Relative luminance, from 0 to 1.
-double luminance(const QColor& colour) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-// How well letters stand out, from 1 to 21; 4.5 is held to be readable.
-double contrast(const QColor& letters, const QColor& ground) {
-    const auto [darker, lighter] = std::minmax(luminance(letters), luminance(ground));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 QColor colourOfFirstLink(const QTextDocument& document) {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
@@ -170,9 +155,9 @@ TEST_F(HelpForm, TextAndLinksAreReadableInEachSkin) {
         webpage& form = shown(adminHelp);
         const QPalette palette = browser().palette();
         const QColor ground = palette.color(QPalette::Base);
-        EXPECT_GE(contrast(palette.color(QPalette::Text), ground), 4.5) << skin;
-        EXPECT_GE(contrast(palette.color(QPalette::Link), ground), 4.5) << skin;
-        EXPECT_GE(contrast(palette.color(QPalette::LinkVisited), ground), 4.5) << skin;
+        EXPECT_GE(contrast(palette.color(QPalette::Text), ground), readable) << skin;
+        EXPECT_GE(contrast(palette.color(QPalette::Link), ground), readable) << skin;
+        EXPECT_GE(contrast(palette.color(QPalette::LinkVisited), ground), readable) << skin;
         EXPECT_EQ(colourOfFirstLink(*browser().document()), palette.color(QPalette::Link)) << skin;
         forms_.unload(form);
     }

@@ -39,6 +39,10 @@ QPushButton* makeButton(QWidget* parent, const char* name, const char* caption,
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(toQt(task));
     button->setAutoDefault(false);
+    // A thin stroke between two rows of pixels would be paler than its colour.
+    QFont font = button->font();
+    font.setBold(true);
+    button->setFont(font);
     return button;
 }
 

@@ -273,7 +273,7 @@ TEST(ListViewLife, TheViewMayOutliveItsItemsAsInAForm) {
 class ListColumns : public ListViews {
   protected:
     ListColumns() {
-        rows_.setText(2, std::string(30, 'n'));
+        rows_.setText(2, std::string(24, 'n'));
         rows_.setSubItem(2, 1, std::string(60, 'a'));
         serveEvents();
     }
@@ -295,14 +295,14 @@ class ListColumns : public ListViews {
 };
 
 TEST_F(ListColumns, ShowNamesWholeAndCutTheRest) {
-    EXPECT_GT(width(0), needed('n', 30));
+    EXPECT_GT(width(0), needed('n', 24));
     EXPECT_LT(width(1), needed('a', 60));
     EXPECT_EQ(width(0) + width(1), view_.viewport()->width());
 }
 
 TEST_F(ListColumns, ShowEverythingWholeWhereThereIsRoom) {
     resize(1000);
-    EXPECT_GT(width(0), needed('n', 30));
+    EXPECT_GT(width(0), needed('n', 24));
     EXPECT_GT(width(1), needed('a', 60));
     EXPECT_EQ(width(0) + width(1), view_.viewport()->width());
 }
@@ -329,7 +329,7 @@ TEST_F(ListColumns, StayWhereTheUserMovedThem) {
 
 TEST_F(ListColumns, AListThatFitsItsColumnsWantsTheWidthOfAll) {
     view_.setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    EXPECT_GT(view_.sizeHint().width(), needed('n', 30) + needed('a', 60));
+    EXPECT_GT(view_.sizeHint().width(), needed('n', 24) + needed('a', 60));
     rows_.setText(3, std::string(50, 'n'));
     EXPECT_GT(view_.sizeHint().width(), needed('n', 50) + needed('a', 60));
 }

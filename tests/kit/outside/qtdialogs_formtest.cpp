@@ -196,7 +196,7 @@ class FilePickers : public RealDialogs {
         return QTest::qWaitFor(found);
     }
     QString systemFolder() const {
-        return QString::fromStdString(world_.world.at("C:\\UT\\System").string());
+        return QString::fromStdString(world_.world.at("C:\\UT\\System").generic_string());
     }
 
     FilePicker picker_{"", "All UT .ini Files(*.ini)|*.ini|", "C:\\ut\\system"};
