@@ -26,8 +26,17 @@ ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent) {
     setWidgetResizable(true);
     setWidget(new Content);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* entered) {
-        if (entered != nullptr && widget()->isAncestorOf(entered)) ensureWidgetVisible(entered);
+        if (entered != nullptr && widget()->isAncestorOf(entered)) scrollTo(*entered);
     });
+}
+
+// One that is larger than the room would be shown from its middle.
+void ContentArea::scrollTo(QWidget& control) {
+    ensureWidgetVisible(&control);
+    const QSize room = viewport()->size();
+    if (control.size().boundedTo(room) == control.size()) return;
+    const QPoint beginning = control.mapTo(widget(), QPoint());
+    ensureVisible(beginning.x(), beginning.y(), 0, 0);
 }
 
 void ContentArea::setSurroundings(const QSize& size) {

@@ -20,7 +20,12 @@ class ContentArea : public QScrollArea {
     int heightForWidth(int width) const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+  protected:
+    // The scroll area's own would show the control once more, in its way.
+    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
+
   private:
+    void scrollTo(QWidget& control);
     QSize room() const;
     QSize fitted(const QSize& wanted) const;
 

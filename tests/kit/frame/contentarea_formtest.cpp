@@ -113,6 +113,23 @@ TEST_F(TallForm, ScrollsWhereTheScreenHasNoRoomForIt) {
     EXPECT_TRUE(form.CommandX->isVisible());
 }
 
+TEST_F(TallForm, AControlWiderThanTheRoomIsShownFromItsBeginning) {
+    Tall& form = shown(3);
+    QListWidget& list = *form.ui.list;
+    list.setMinimumWidth(2 * room().width());
+    test::serveEvents();
+    const auto beginsInSight = [&] {
+        return area().viewport()->rect().contains(list.mapTo(area().viewport(), QPoint()));
+    };
+    form.ui.buttons[0]->setFocus();
+    list.setFocus();
+    EXPECT_TRUE(beginsInSight());
+    QTest::keyClick(&list, Qt::Key_Tab);
+    QTest::keyClick(form.ui.buttons[0], Qt::Key_Backtab);
+    EXPECT_TRUE(list.hasFocus());
+    EXPECT_TRUE(beginsInSight());
+}
+
 TEST_F(TallForm, TheFocusScrollsItsControlIntoSight) {
     Tall& form = shown(40);
     form.ui.buttons[39]->setFocus();
