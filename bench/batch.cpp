@@ -84,10 +84,10 @@ bool compressBatch(const Place& place) {
         requireAll(world);
         return took;
     };
-    const Medians medians = takeTurns(
+    const Comparison compared = takeTurns(
         rounds, [&] { return timed([&] { runBatch(world); }); },
         [&] { return timed([&] { runLoop(world); }); });
-    return report(on(place, "compression, a batch of 100 small files"), medians, "ms", mark);
+    return report(on(place, "compression, a batch of 100 small files"), compared, "ms", mark);
 }
 
 }  // namespace tessaro::bench

@@ -10,34 +10,37 @@ namespace {
 
 constexpr int nameWidth = 50;
 
+Comparison middleOf(std::vector<Comparison> rounds) {
+    const auto middle = rounds.begin() + static_cast<std::ptrdiff_t>(rounds.size() / 2);
+    std::nth_element(rounds.begin(), middle, rounds.end(),
+                     [](const Comparison& one, const Comparison& other) {
+                         return one.ours * other.reference < other.ours * one.reference;
+                     });
+    return *middle;
+}
+
 }  // namespace
 
-Medians takeTurns(int rounds, const Measurement& ours, const Measurement& reference) {
-    std::vector<double> oursTook;
-    std::vector<double> referenceTook;
+Comparison takeTurns(int rounds, const Measurement& ours, const Measurement& reference) {
+    const auto costing = [](const Measurement& measurement) {
+        return [&] { return Cost{measurement(), 0}; };
+    };
+    return takeTurns(rounds, costing(ours), costing(reference)).clock;
+}
+
+CostComparison takeTurns(int rounds, const std::function<Cost()>& ours,
+                         const std::function<Cost()>& reference) {
+    std::vector<Comparison> clock;
+    std::vector<Comparison> processor;
     ours();
     reference();
     for (int round = 0; round < rounds; ++round) {
-        oursTook.push_back(ours());
-        referenceTook.push_back(reference());
+        const Cost oursTook = ours();
+        const Cost referenceTook = reference();
+        clock.push_back({oursTook.clock, referenceTook.clock});
+        processor.push_back({oursTook.processor, referenceTook.processor});
     }
-    return {median(std::move(oursTook)), median(std::move(referenceTook))};
-}
-
-CostMedians takeTurns(int rounds, const std::function<Cost()>& ours,
-                      const std::function<Cost()>& reference) {
-    std::vector<double> oursProcessor;
-    std::vector<double> referenceProcessor;
-    const auto noting = [](const std::function<Cost()>& measurement, std::vector<double>& values) {
-        return [&] {
-            const Cost cost = measurement();
-            values.push_back(cost.processor);
-            return cost.clock;
-        };
-    };
-    const Medians clock =
-        takeTurns(rounds, noting(ours, oursProcessor), noting(reference, referenceProcessor));
-    return {clock, {median(std::move(oursProcessor)), median(std::move(referenceProcessor))}};
+    return {middleOf(std::move(clock)), middleOf(std::move(processor))};
 }
 
 double median(std::vector<double> values) {
@@ -64,11 +67,11 @@ double cpuMilliseconds(const std::function<void()>& work) {
     return costOf(work).processor;
 }
 
-bool report(const std::string& name, const Medians& medians, const char* unit, double mark) {
-    const double ratio = medians.ours / medians.reference;
+bool report(const std::string& name, const Comparison& compared, const char* unit, double mark) {
+    const double ratio = compared.ours / compared.reference;
     const bool kept = ratio <= mark;  // also false for a ratio that is no number
     std::printf("%-*s %9.3f %s %9.3f %s %6.2f  (at most %.2f)%s\n", nameWidth, name.c_str(),
-                medians.ours, unit, medians.reference, unit, ratio, mark, kept ? "" : "  MISSED");
+                compared.ours, unit, compared.reference, unit, ratio, mark, kept ? "" : "  MISSED");
     std::fflush(stdout);
     return kept;
 }

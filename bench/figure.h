@@ -9,9 +9,9 @@ namespace tessaro::bench {
 /// Does the work once and gives what it took, in the figure's own unit.
 using Measurement = std::function<double()>;
 
-/// Medians of several measurements that took turns, so that whatever else the machine does meets
-/// both alike.
-struct Medians {
+/// What both sides took in the round whose ratio is the middle one of several. They take turns, and
+/// what else the machine does changes from round to round more than within one.
+struct Comparison {
     double ours = 0;
     double reference = 0;
 };
@@ -21,16 +21,16 @@ struct Cost {
     double clock = 0;
     double processor = 0;
 };
-struct CostMedians {
-    Medians clock;
-    Medians processor;
+struct CostComparison {
+    Comparison clock;
+    Comparison processor;
 };
 
 /// Takes turns `rounds` times, after one turn that only warms the caches.
-Medians takeTurns(int rounds, const Measurement& ours, const Measurement& reference);
+Comparison takeTurns(int rounds, const Measurement& ours, const Measurement& reference);
 /// The same of both costs at once.
-CostMedians takeTurns(int rounds, const std::function<Cost()>& ours,
-                      const std::function<Cost()>& reference);
+CostComparison takeTurns(int rounds, const std::function<Cost()>& ours,
+                         const std::function<Cost()>& reference);
 /// The middle one of several values.
 double median(std::vector<double> values);
 
@@ -41,7 +41,7 @@ double wallMilliseconds(const std::function<void()>& work);
 double cpuMilliseconds(const std::function<void()>& work);
 
 /// Prints a figure's line and gives whether its ratio is at most the mark.
-bool report(const std::string& name, const Medians& medians, const char* unit, double mark);
+bool report(const std::string& name, const Comparison& compared, const char* unit, double mark);
 /// Prints a line for what has no reference.
 void tell(const std::string& name, double value, const char* unit);
 

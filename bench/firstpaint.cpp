@@ -120,7 +120,7 @@ bool firstPaint() {
     ::setenv("WINEPREFIX", world.folder().c_str(), 1);
     Starter ours(world, "tessaro-bench-program");
     Starter plain(world, "tessaro-bench-plain");
-    const Medians times = takeTurns(
+    const Comparison times = takeTurns(
         rounds, [&] { return ours.start(); }, [&] { return plain.start(); });
     const bool soon = report(on(memory(), "first paint of the main window"), times, "ms", mark);
     tellSteps(memory(), ours);

@@ -69,10 +69,10 @@ bool missingFiles(const std::string& name, World& world, const std::string& cach
                   const HostPath& folder) {
     fillCacheFolder(folder);
     world.makeFolder("C:\\Out");
-    const Medians medians = takeTurns(
+    const Comparison compared = takeTurns(
         rounds, [&] { return cpuMilliseconds([&] { missAll(world, cache); }); },
         [&] { return cpuMilliseconds([&] { statEachLine(folder.string()); }); });
-    return report(name, medians, "ms", mark);
+    return report(name, compared, "ms", mark);
 }
 
 }  // namespace

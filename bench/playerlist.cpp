@@ -85,11 +85,11 @@ bool playerList(const Place& place) {
     fillArchive(world);
     const std::string list = world.at(listFile);
     const std::string folder = world.at(copiesFolder);
-    const Medians loading = takeTurns(
+    const Comparison loading = takeTurns(
         rounds, [&] { return loadList(world); },
         [&] { return cpuMilliseconds([&] { statEachLine(list, folder); }); });
     const bool loads = report(on(place, "LoadPlayerList, 10,000 players"), loading, "ms", mark);
-    const Medians choosing = takeTurns(
+    const Comparison choosing = takeTurns(
         rounds, [&] { return chooseName(world); },
         [&] { return cpuMilliseconds([&] { listFolder(folder); }); });
     return report(on(place, "NextBackupName, 10,000 numbers taken"), choosing, "ms", mark) && loads;

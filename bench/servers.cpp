@@ -118,10 +118,10 @@ bool compareLoads(const Place& place, World& world) {
         require(list.count() == many && serverAt(list, many) == server(many - 1));
     };
     const HostPath file = world.at(serverFile);
-    const Medians medians = takeTurns(
+    const Comparison compared = takeTurns(
         listRounds, [&] { return cpuMilliseconds(load); },
         [&] { return cpuMilliseconds([&] { readLines(file); }); });
-    return report(on(place, "load of 10,000 servers"), medians, "ms", listMark);
+    return report(on(place, "load of 10,000 servers"), compared, "ms", listMark);
 }
 
 bool compareSaves(const Place& place, World& world) {
@@ -131,10 +131,10 @@ bool compareSaves(const Place& place, World& world) {
     std::vector<std::string> lines;
     for (int i = 0; i < many; ++i) lines.push_back(lineOf(i));
     const HostPath copy = world.at("C:\\Tessaro\\lines");
-    const Medians medians = takeTurns(
+    const Comparison compared = takeTurns(
         listRounds, [&] { return cpuMilliseconds([&] { SaveServerList(fresh.program, list); }); },
         [&] { return cpuMilliseconds([&] { writeLines(copy, lines); }); });
-    return report(on(place, "save of 10,000 servers"), medians, "ms", listMark);
+    return report(on(place, "save of 10,000 servers"), compared, "ms", listMark);
 }
 
 }  // namespace
@@ -142,10 +142,10 @@ bool compareSaves(const Place& place, World& world) {
 bool importFavorites(const Place& place) {
     Game large(place, many);
     Game small(place, few);
-    const Medians whole = takeTurns(
+    const Comparison whole = takeTurns(
         rounds, [&] { return large.import(); },
         [&] { return cpuMilliseconds([&] { large.readWithGLib(); }); });
-    const Medians entry = takeTurns(
+    const Comparison entry = takeTurns(
         rounds, [&] { return large.importPerEntry(); }, [&] { return small.importPerEntry(); });
     const bool fast =
         report(on(place, "import of 10,000 favourites, 1 MB"), whole, "ms", importMark);

@@ -32,10 +32,10 @@ bool reportToldBy(const char* name, const Place& place, const Line (&lines)[coun
     std::istringstream told(outputOf({program.string(), place.folder.string()}));
     bool kept = true;
     for (const Line& line : lines) {
-        Medians medians;
-        if (!(told >> medians.ours >> medians.reference))
+        Comparison compared;
+        if (!(told >> compared.ours >> compared.reference))
             throw std::runtime_error(program.string() + " did not tell of: " + line.name);
-        kept = report(on(place, line.name), medians, "ms", line.mark) && kept;
+        kept = report(on(place, line.name), compared, "ms", line.mark) && kept;
     }
     return kept;
 }

@@ -115,12 +115,13 @@ class PlainBox {
     QPlainTextEdit box_;
 };
 
-Medians load(EditorProgram& program, PlainBox& plain, const char* path, const HostPath& hostPath) {
-    const Medians medians = takeTurns(
+Comparison load(EditorProgram& program, PlainBox& plain, const char* path,
+                const HostPath& hostPath) {
+    const Comparison compared = takeTurns(
         rounds, [&] { return wallMilliseconds([&] { program.load(path); }); },
         [&] { return wallMilliseconds([&] { plain.load(hostPath); }); });
     require(program.box().toPlainText() == plain.box().toPlainText(), "another text was loaded");
-    return medians;
+    return compared;
 }
 
 void goToTheMiddle(QPlainTextEdit& box) {
@@ -135,15 +136,15 @@ void pressEnter(QPlainTextEdit& box) {
     box.viewport()->repaint();
 }
 
-Medians edit(QPlainTextEdit& ours, QPlainTextEdit& plain) {
+Comparison edit(QPlainTextEdit& ours, QPlainTextEdit& plain) {
     goToTheMiddle(ours);
     goToTheMiddle(plain);
     const int before = ours.blockCount();
-    const Medians medians = takeTurns(
+    const Comparison compared = takeTurns(
         rounds, [&] { return wallMilliseconds([&] { pressEnter(ours); }); },
         [&] { return wallMilliseconds([&] { pressEnter(plain); }); });
     require(ours.blockCount() == before + rounds + 1, "the keys were not taken");
-    return medians;
+    return compared;
 }
 
 void writeNewAndRename(const HostPath& path, const std::string& bytes) {
@@ -157,7 +158,7 @@ void writeNewAndRename(const HostPath& path, const std::string& bytes) {
 }
 
 // With the lines that were typed into the middle before.
-Medians save(EditorProgram& program, const World& world) {
+Comparison save(EditorProgram& program, const World& world) {
     program.editor().save();
     QFile saved(hostPathToQt(world.at(file)));
     require(saved.open(QIODevice::ReadOnly), "nothing was saved");
@@ -188,7 +189,7 @@ Measurement manyTimes(const std::function<void()>& work) {
     };
 }
 
-Medians search() {
+Comparison search() {
     const std::string text = linesUpTo(hit) + wanted + linesUpTo(hit);
     const QString qtText = toQt(text);
     const std::string ours = lowerCase(wanted);
@@ -211,7 +212,7 @@ void measure(World& world) {
     world.write(longFile, longLinesUpTo(fileSize));
     EditorProgram program(world);
     PlainBox plain(program.box());
-    const Medians longLines = load(program, plain, longFile, world.at(longFile));
+    const Comparison longLines = load(program, plain, longFile, world.at(longFile));
     hand(load(program, plain, file, world.at(file)));
     hand(longLines);
     hand(edit(program.box(), plain.box()));

@@ -8,8 +8,8 @@
 
 namespace tessaro::bench {
 
-void hand(const Medians& medians) {
-    std::printf("%f %f\n", medians.ours, medians.reference);
+void hand(const Comparison& compared) {
+    std::printf("%f %f\n", compared.ours, compared.reference);
 }
 
 int measureWindows(int argc, char** argv, void (*measure)(World&)) {

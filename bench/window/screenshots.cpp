@@ -70,7 +70,7 @@ class Viewer {
     Forms forms_{noDialogs(), end_};
 };
 
-Medians opening(World& world) {
+Comparison opening(World& world) {
     const QString folder = toQt(world.at(systemFolder).string());
     const auto ours = [&] {
         Viewer viewer(world);
@@ -87,7 +87,7 @@ Medians opening(World& world) {
     return takeTurns(rounds, ours, reference);
 }
 
-Medians stepping(World& world) {
+Comparison stepping(World& world) {
     Viewer viewer(world);
     viewer.open();
     QLabel label;
