@@ -24,10 +24,10 @@
 
 #include "platform/files/wholefile.h"
 
+#include <charconv>
 #include <chrono>
-#include <cinttypes>
 #include <cstdint>
-#include <cstdio>
+#include <iterator>
 #include <random>
 #include <string>
 
@@ -86,9 +86,9 @@ bool always() {
 std::string freshDigits() {
     static std::uint64_t last =
         (std::uint64_t{std::random_device()()} << 32U) | std::random_device()();
-    char digits[17];
-    std::snprintf(digits, sizeof digits, "%016" PRIx64, ++last);
-    return digits;
+    char digits[16];
+    const auto written = std::to_chars(std::begin(digits), std::end(digits), ++last, 16);
+    return {digits, written.ptr};
 }
 
 // A name that no listing of the program shows. Only chance keeps two programs apart, but under the
@@ -159,30 +159,31 @@ class PassingFile {
 };
 
 // The new file is in place. If its name is not yet on the disk, a crash gives the old one.
-Outcome done(const Replacement& job) {
-    attempt([&] { job.host.flushFolder(job.target.parent_path()); });
+Outcome done(const Replacement& job, const HostPath& folder) {
+    attempt([&] { job.host.flushFolder(folder); });
     return Outcome::Done;
 }
 
-Outcome renameOver(const Replacement& job, const HostPath& name) {
+Outcome renameOver(const Replacement& job, const HostPath& folder, const HostPath& name) {
     std::unique_ptr<HostWriter> writer;
     if (job.forbids([&] { writer = job.create(name); })) return Outcome::Forbidden;
     if (job.old && !writer->alike()) return Outcome::Forbidden;
     job.fill(*writer);
-    if (!job.old && job.current() && writer->closeAs(job.target)) return done(job);
+    if (!job.old && job.current() && writer->closeAs(job.target)) return done(job, folder);
     writer->close();
     PassingFile beside(job.host, name);
     if (!job.current()) return Outcome::Outdated;
     if (job.forbids([&] { beside.moveTo(job.target); })) return Outcome::Forbidden;
-    return done(job);
+    return done(job, folder);
 }
 
 Outcome renameOver(const Replacement& job) {
+    const HostPath folder = job.target.parent_path();
     bool alone = job.alone;
     for (int tries = 1;; ++tries) {
-        const HostPath name = job.target.parent_path() / temporaryName(alone);
+        const HostPath name = folder / temporaryName(alone);
         try {
-            return renameOver(job, name);
+            return renameOver(job, folder, name);
         } catch (const RunTimeError& error) {
             if (error.number() != errors::FileAlreadyExists || tries == mostTries) throw;
             // What another user left may not be ours to remove.

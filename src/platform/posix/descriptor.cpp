@@ -19,7 +19,7 @@ const char* systemName(const HostPath& path) {
     return path.c_str();
 }
 
-Descriptor::Descriptor(const HostPath& path, int flags, mode_t mode) : path_(path) {
+Descriptor::Descriptor(const HostPath& path, int flags, mode_t mode) : name_(path.native()) {
     const auto open = [&](int how) {
         return uninterrupted([&] { return ::open(systemName(path), how | O_CLOEXEC, mode); });
     };
@@ -29,7 +29,7 @@ Descriptor::Descriptor(const HostPath& path, int flags, mode_t mode) : path_(pat
     if (fd_ == -1) raiseErrno(path);
 }
 
-Descriptor::Descriptor(int opened, const HostPath& path) : path_(path), fd_(opened) {
+Descriptor::Descriptor(int opened, const HostPath& path) : name_(path.native()), fd_(opened) {
     if (fd_ == -1) raiseErrno(path);
 }
 
@@ -39,7 +39,7 @@ Descriptor::~Descriptor() {
 
 std::size_t Descriptor::size() const {
     struct stat info = {};
-    if (::fstat(fd_, &info) == -1) raiseErrno(path_);
+    if (::fstat(fd_, &info) == -1) raiseErrno(path());
     return static_cast<std::size_t>(info.st_size);
 }
 
@@ -47,24 +47,24 @@ void Descriptor::write(std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t done =
             uninterrupted([&] { return ::write(fd_, bytes.data(), bytes.size()); });
-        if (done == -1) raiseErrno(path_);
+        if (done == -1) raiseErrno(path());
         bytes.remove_prefix(static_cast<std::size_t>(done));
     }
 }
 
 std::size_t Descriptor::read(char* buffer, std::size_t size) {
     const ssize_t done = uninterrupted([&] { return ::read(fd_, buffer, size); });
-    if (done == -1) raiseErrno(path_);
+    if (done == -1) raiseErrno(path());
     return static_cast<std::size_t>(done);
 }
 
 void Descriptor::flush() {
-    if (uninterrupted([&] { return ::fsync(fd_); }) == -1) raiseErrno(path_);
+    if (uninterrupted([&] { return ::fsync(fd_); }) == -1) raiseErrno(path());
 }
 
 void Descriptor::close() {
     // Not repeated after a signal: the descriptor is gone by then and may be someone else's.
-    if (::close(std::exchange(fd_, -1)) == -1 && errno != EINTR) raiseErrno(path_);
+    if (::close(std::exchange(fd_, -1)) == -1 && errno != EINTR) raiseErrno(path());
 }
 
 Descriptor openRegular(const HostPath& file) {

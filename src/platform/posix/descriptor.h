@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <cerrno>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -33,12 +34,12 @@ class Descriptor {
     /// Takes over what another call opened. Raises `errno` for -1.
     Descriptor(int opened, const HostPath& path);
     Descriptor(Descriptor&& other) noexcept
-        : path_(std::move(other.path_)), fd_(std::exchange(other.fd_, -1)) {}
+        : name_(std::move(other.name_)), fd_(std::exchange(other.fd_, -1)) {}
     Descriptor& operator=(Descriptor&&) = delete;
     ~Descriptor();
 
     int get() const { return fd_; }
-    const HostPath& path() const { return path_; }
+    HostPath path() const { return name_; }
     /// Bytes in the file.
     std::size_t size() const;
     void write(std::string_view bytes);
@@ -49,7 +50,7 @@ class Descriptor {
     void close();
 
   private:
-    HostPath path_;
+    std::string name_;  // a path would have to be taken apart for each copy of it
     int fd_;
 };
 

@@ -112,9 +112,9 @@ std::optional<Likeness> Likeness::of(const HostPath& file) {
 }
 
 bool Likeness::giveTo(int file) const {
-    giveOwner(file);
+    const bool ourGroup = giveOwner(file);
     giveAccessList(file, accessList_);
-    if (accessListOf(file) == accessList_) givePermissions(file, true);
+    if (accessListOf(file) == accessList_) givePermissions(file, ourGroup);
     for (const auto& [name, value] : attributes_) giveAttribute(file, name, value);
     return isOf(file);
 }
@@ -123,27 +123,26 @@ void Likeness::giveToCopy(int from, int copy) {
     struct stat info = {};
     if (::fstat(from, &info) == -1) return;
     const Likeness likeness(info);
-    likeness.giveOwner(copy);
-    likeness.givePermissions(copy, accessListOf(from).empty());
+    const bool ourGroup = likeness.giveOwner(copy);
+    likeness.givePermissions(copy, ourGroup && accessListOf(from).empty());
 }
 
 // Only a privileged user may give files away; most may choose among their own groups. Mostly it is
 // ours already, and then the disk is spared the change.
-void Likeness::giveOwner(int file) const {
+bool Likeness::giveOwner(int file) const {
     struct stat info = {};
-    if (::fstat(file, &info) == 0 && info.st_uid == owner_ && info.st_gid == group_) return;
+    if (::fstat(file, &info) == 0 && info.st_uid == owner_ && info.st_gid == group_) return true;
     if (::fchown(file, owner_, group_) == -1)
         passOver(::fchown(file, static_cast<uid_t>(-1), group_));
+    return ::fstat(file, &info) == 0 && info.st_gid == group_;
 }
 
 // What the old group had is not for another one, nor does it tell what the group had where the list
 // is missing. It gets no more than everybody then.
-void Likeness::givePermissions(int file, bool listed) const {
-    struct stat info = {};
-    if (::fstat(file, &info) == -1) return;
+void Likeness::givePermissions(int file, bool forGroup) const {
     const mode_t others = (permissions_ & S_IRWXO) << groupShift;
-    const mode_t forGroup = listed && info.st_gid == group_ ? S_IRWXG : others;
-    passOver(::fchmod(file, permissions_ & (S_IRWXU | S_IRWXO | forGroup)));
+    const mode_t group = forGroup ? S_IRWXG : others;
+    passOver(::fchmod(file, permissions_ & (S_IRWXU | S_IRWXO | group)));
 }
 
 bool Likeness::isOf(int file) const {

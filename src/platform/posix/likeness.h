@@ -31,8 +31,9 @@ class Likeness {
 
   private:
     explicit Likeness(const struct stat& info);
-    void giveOwner(int file) const;
-    void givePermissions(int file, bool listed) const;
+    // Tells whether the group is the same now.
+    bool giveOwner(int file) const;
+    void givePermissions(int file, bool forGroup) const;
     bool isOf(int file) const;
 
     uid_t owner_ = 0;

@@ -275,8 +275,8 @@ std::unique_ptr<Host> makeHost() {
     return std::make_unique<PosixHost>();
 }
 
-HostPath hostPath(std::string_view text) {
-    return {text};
+HostPath::string_type hostText(std::string_view text) {
+    return HostPath::string_type(text);
 }
 
 HostPath executablePath() {

@@ -110,8 +110,9 @@ bool isValidUtf8(std::string_view text) {
 }
 
 std::size_t length(std::string_view text) {
-    std::size_t count = 0;
-    for (std::size_t position = 0; position < text.size(); ++count) nextCharacter(text, position);
+    std::size_t position = skipAscii(text, 0);
+    std::size_t count = position;
+    for (; position < text.size(); ++count) nextCharacter(text, position);
     return count;
 }
 

@@ -249,8 +249,8 @@ std::unique_ptr<Host> makeHost() {
     return std::make_unique<WindowsHost>();
 }
 
-HostPath hostPath(std::string_view text) {
-    return HostPath(toWide(text));
+HostPath::string_type hostText(std::string_view text) {
+    return toWide(text);
 }
 
 HostPath executablePath() {
