@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/text/ascii.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
@@ -50,10 +51,43 @@ char16_t nextStray(std::string_view text, std::size_t& position, Encoding encodi
     return static_cast<char16_t>(half);
 }
 
+// Without branches, so that a block of units is looked at in one go.
 bool isLineEnd(char16_t unit) {
-    if (unit < 0x2029) return unit == u'\n' || unit == u'\r';
+    const unsigned usual =
+        static_cast<unsigned>(unit == u'\n') | static_cast<unsigned>(unit == u'\r');
     // What the box uses itself to tell lines apart.
-    return unit == 0x2029 || unit == 0xFDD0 || unit == 0xFDD1;
+    const unsigned inner =
+        static_cast<unsigned>(unit == 0x2029) | static_cast<unsigned>((unit & 0xFFFEU) == 0xFDD0);
+    return (usual | inner) != 0;
+}
+
+constexpr std::size_t blockSize = 16;
+
+bool hasLineEnd(const char16_t* block) {
+    unsigned found = 0;
+    for (std::size_t i = 0; i < blockSize; ++i) found |= static_cast<unsigned>(isLineEnd(block[i]));
+    return found != 0;
+}
+
+bool isAsciiBlock(const char* block) {
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < blockSize; ++i) bits |= static_cast<unsigned char>(block[i]);
+    return bits < 0x80;
+}
+
+// Plain characters from a position on, which has one: whole blocks of them, or it alone. Tells how
+// many.
+std::size_t putPlain(std::string_view text, std::size_t position, char16_t* place) {
+    const std::size_t first = position;
+    while (text.size() - position >= blockSize && isAsciiBlock(text.data() + position)) {
+        for (std::size_t i = 0; i < blockSize; ++i)
+            place[i] = static_cast<unsigned char>(text[position + i]);
+        position += blockSize;
+        place += blockSize;
+    }
+    if (position > first) return position - first;
+    *place = static_cast<unsigned char>(text[position]);
+    return 1;
 }
 
 }  // namespace
@@ -66,10 +100,10 @@ std::u16string toBox(std::string_view text, Encoding encoding) {
     std::u16string shown(text.size(), u'\0');  // nothing takes more units than bytes
     char16_t* place = shown.data();
     for (std::size_t position = 0; position < text.size();) {
-        const auto byte = static_cast<unsigned char>(text[position]);
-        if (byte < 0x80) {
-            *place++ = byte;
-            ++position;
+        if (isAscii(text[position])) {
+            const std::size_t plain = putPlain(text, position, place);
+            place += plain;
+            position += plain;
             continue;
         }
         std::size_t next = position;
@@ -111,8 +145,9 @@ std::string readable(std::u16string_view text) {
 
 std::size_t nextLineEnd(std::u16string_view text, std::size_t position) {
     const auto* from = text.data() + position;
-    return static_cast<std::size_t>(std::find_if(from, text.data() + text.size(), isLineEnd) -
-                                    text.data());
+    const auto* end = text.data() + text.size();
+    while (end - from >= std::ptrdiff_t{blockSize} && !hasLineEnd(from)) from += blockSize;
+    return static_cast<std::size_t>(std::find_if(from, end, isLineEnd) - text.data());
 }
 
 std::size_t lineEndAt(std::u16string_view text, std::size_t position) {

@@ -82,6 +82,30 @@ TEST(BoxText, TheNextLineEndIsTheFirstOfAnyKindFromThere) {
     EXPECT_EQ(found, "2 2 2 3 6 6 6 8 8 9 10 12 12 13 15 15 ");
 }
 
+// Long texts are looked at in blocks.
+TEST(BoxText, OneOddCharacterIsSeenWhereverItStands) {
+    for (std::size_t at = 0; at < 50; ++at) {
+        std::string text(50, 'x');
+        text.replace(at, 1, "\xC3\xA9");
+        std::u16string expected(50, u'x');
+        expected[at] = u'\u00E9';
+        EXPECT_EQ(toBox(text, Encoding::CodePage), expected) << at;
+    }
+}
+
+TEST(BoxText, ALineEndIsFoundWhereverItStands) {
+    for (const char16_t end : {u'\n', u'\r', u'\u2029', u'\uFDD0', u'\uFDD1'}) {
+        for (std::size_t at = 0; at < 50; ++at) {
+            std::u16string text(50, u'x');
+            text[at] = end;
+            EXPECT_EQ(nextLineEnd(text, 0), at);
+            EXPECT_EQ(nextLineEnd(text, at), at);
+            EXPECT_EQ(nextLineEnd(text, at + 1), 50U) << at;
+        }
+    }
+    EXPECT_EQ(nextLineEnd(std::u16string(50, u'\uFDD2'), 0), 50U);
+}
+
 TEST(BoxText, ACrLfIsOneLineEnd) {
     const std::u16string text = u"a\r\nb\rc\nd\n\re";
     std::string sizes;
