@@ -250,6 +250,15 @@ TEST(PosixHost, CopiesFilesWhoseSizeTheSystemDoesNotTell) {
     EXPECT_TRUE(real.host->read("/proc/self/status").starts_with("Name:"));
 }
 
+TEST(PosixHost, ALargeFileThatTheKernelDoesNotCopyIsCopiedWhole) {
+    const char* symbols = "/proc/kallsyms";  // several megabytes on any kernel that has it
+    if (::access(symbols, R_OK) != 0) GTEST_SKIP() << "the kernel keeps its symbols to itself";
+    const Real real;
+    const HostPath copy = real.folder.path() / "symbols";
+    replaceByCopy(*real.host, symbols, copy);
+    EXPECT_GT(fs::file_size(copy), 1'000'000U);
+}
+
 TEST(PosixHost, ReadingRefusesWhatHasNoEnd) {
     const Real real;
     const HostPath pipe = real.folder.path() / "pipe";
