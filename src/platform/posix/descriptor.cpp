@@ -43,7 +43,7 @@ std::size_t Descriptor::size() const {
     return static_cast<std::size_t>(info.st_size);
 }
 
-void Descriptor::write(std::string_view bytes) {
+void Descriptor::write(std::string_view bytes) const {
     while (!bytes.empty()) {
         const ssize_t done =
             uninterrupted([&] { return ::write(fd_, bytes.data(), bytes.size()); });
@@ -52,13 +52,13 @@ void Descriptor::write(std::string_view bytes) {
     }
 }
 
-std::size_t Descriptor::read(char* buffer, std::size_t size) {
+std::size_t Descriptor::read(char* buffer, std::size_t size) const {
     const ssize_t done = uninterrupted([&] { return ::read(fd_, buffer, size); });
     if (done == -1) raiseErrno(path());
     return static_cast<std::size_t>(done);
 }
 
-void Descriptor::flush() {
+void Descriptor::flush() const {
     if (uninterrupted([&] { return ::fsync(fd_); }) == -1) raiseErrno(path());
 }
 

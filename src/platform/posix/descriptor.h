@@ -42,10 +42,10 @@ class Descriptor {
     HostPath path() const { return name_; }
     /// Bytes in the file.
     std::size_t size() const;
-    void write(std::string_view bytes);
+    void write(std::string_view bytes) const;
     /// Reads at most `size` bytes; 0 at the end of the file.
-    std::size_t read(char* buffer, std::size_t size);
-    void flush();
+    std::size_t read(char* buffer, std::size_t size) const;
+    void flush() const;
     /// Some file systems tell only now that a write failed.
     void close();
 
