@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/text/ascii.h"
 #include "platform/text/utf8.h"
 
 namespace tessaro {
@@ -69,27 +68,6 @@ bool hasLineEnd(const char16_t* block) {
     return found != 0;
 }
 
-bool isAsciiBlock(const char* block) {
-    unsigned bits = 0;
-    for (std::size_t i = 0; i < blockSize; ++i) bits |= static_cast<unsigned char>(block[i]);
-    return bits < 0x80;
-}
-
-// Plain characters from a position on, which has one: whole blocks of them, or it alone. Tells how
-// many.
-std::size_t putPlain(std::string_view text, std::size_t position, char16_t* place) {
-    const std::size_t first = position;
-    while (text.size() - position >= blockSize && isAsciiBlock(text.data() + position)) {
-        for (std::size_t i = 0; i < blockSize; ++i)
-            place[i] = static_cast<unsigned char>(text[position + i]);
-        position += blockSize;
-        place += blockSize;
-    }
-    if (position > first) return position - first;
-    *place = static_cast<unsigned char>(text[position]);
-    return 1;
-}
-
 }  // namespace
 
 bool holdsPairs(Encoding encoding) {
@@ -100,12 +78,10 @@ std::u16string toBox(std::string_view text, Encoding encoding) {
     std::u16string shown(text.size(), u'\0');  // nothing takes more units than bytes
     char16_t* place = shown.data();
     for (std::size_t position = 0; position < text.size();) {
-        if (isAscii(text[position])) {
-            const std::size_t plain = putPlain(text, position, place);
-            place += plain;
-            position += plain;
-            continue;
-        }
+        const std::size_t plain = asciiEnd(text, position);
+        place = std::copy(text.data() + position, text.data() + plain, place);
+        position = plain;
+        if (position == text.size()) break;
         std::size_t next = position;
         const char32_t character = nextCharacter(text, next);
         if (next == position + 1) {

@@ -42,18 +42,6 @@ std::size_t sizeAt(std::string_view text, std::size_t position, char32_t& charac
     return character >= lead.smallest && isCharacter(character) ? lead.size : 0;
 }
 
-// Eight bytes at a time: the game's files are nearly all ASCII, and each read of a key asks.
-std::size_t skipAscii(std::string_view text, std::size_t position) {
-    while (text.size() - position >= sizeof(std::uint64_t)) {
-        std::uint64_t block = 0;
-        std::memcpy(&block, text.data() + position, sizeof block);
-        if ((block & 0x8080808080808080U) != 0) break;
-        position += sizeof block;
-    }
-    while (position < text.size() && isAscii(text[position])) ++position;
-    return position;
-}
-
 // The byte where the `count`th character after `position` begins, or the text's end.
 std::size_t advance(std::string_view text, std::size_t position, std::size_t count) {
     if (count < text.size() - position && isAsciiText(text.substr(position, count)))
@@ -94,23 +82,35 @@ void appendCharacter(std::string& text, char32_t character) {
     }
 }
 
+// Eight bytes at a time: the game's files are nearly all ASCII, and each read of a key asks.
+std::size_t asciiEnd(std::string_view text, std::size_t position) {
+    while (text.size() - position >= sizeof(std::uint64_t)) {
+        std::uint64_t block = 0;
+        std::memcpy(&block, text.data() + position, sizeof block);
+        if ((block & 0x8080808080808080U) != 0) break;
+        position += sizeof block;
+    }
+    while (position < text.size() && isAscii(text[position])) ++position;
+    return position;
+}
+
 bool isAsciiText(std::string_view text) {
-    return skipAscii(text, 0) == text.size();
+    return asciiEnd(text, 0) == text.size();
 }
 
 bool isValidUtf8(std::string_view text) {
     char32_t character = 0;
-    std::size_t position = skipAscii(text, 0);
+    std::size_t position = asciiEnd(text, 0);
     while (position < text.size()) {
         const std::size_t size = sizeAt(text, position, character);
         if (size == 0) return false;
-        position = skipAscii(text, position + size);
+        position = asciiEnd(text, position + size);
     }
     return true;
 }
 
 std::size_t length(std::string_view text) {
-    std::size_t position = skipAscii(text, 0);
+    std::size_t position = asciiEnd(text, 0);
     std::size_t count = position;
     for (; position < text.size(); ++count) nextCharacter(text, position);
     return count;

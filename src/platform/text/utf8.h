@@ -21,6 +21,9 @@ void appendCharacter(std::string& text, char32_t character);
 bool isValidUtf8(std::string_view text);
 /// Whether every character is one byte.
 bool isAsciiText(std::string_view text);
+/// The byte at `position` or behind it where the first character is that is not ASCII, or the
+/// text's end.
+std::size_t asciiEnd(std::string_view text, std::size_t position);
 
 /// Number of characters.
 std::size_t length(std::string_view text);
